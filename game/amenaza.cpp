@@ -1,0 +1,29 @@
+#include "estrategias.h"
+
+bool JugadaAmenaza(Integer &columna, Integer &fila, const Board &tablero)
+{
+    Board prueba;
+    // (a, b) is the cell the threat aims at, column order; (s, r) the move, row order.
+    for (Integer a = 0; a <= 2; ++a)
+        for (Integer b = 0; b <= 2; ++b) {
+            if (tablero(a, b) != 0)
+                continue;
+            CopiaTablero(prueba, tablero);
+            prueba(a, b) = kCero;
+            for (Integer r = 0; r <= 2; ++r)
+                for (Integer s = 0; s <= 2; ++s) {
+                    if (prueba(s, r) != 0)
+                        continue;
+                    prueba(s, r) = kCero;
+                    if (RevisaColumna(s, prueba) || RevisaFila(r, prueba) ||
+                        (prueba(0, 0) == kCero && prueba(2, 2) == kCero && prueba(1, 1) == kCero) ||
+                        (prueba(2, 0) == kCero && prueba(0, 2) == kCero && prueba(1, 1) == kCero)) {
+                        columna = s;
+                        fila = r;
+                        return true;
+                    }
+                    prueba(s, r) = 0;
+                }
+        }
+    return false;
+}

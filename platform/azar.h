@@ -1,0 +1,43 @@
+#pragma once
+// The shared pseudo-random source. Every random choice of the program draws
+// exactly one uniform value x in [0, 1) and takes entry floor(n * x).
+
+#include "entero.h"
+
+#include <cstdint>
+
+class FuenteAzar {
+  public:
+    virtual ~FuenteAzar() = default;
+    // One uniform single-precision value in [0, 1).
+    virtual float Rnd() = 0;
+    // One choice among n entries: draws one value x and returns floor(n * x).
+    virtual Integer Elige(Integer n);
+};
+
+// The program's generator: a fixed initial state until it is seeded.
+class GeneradorAzar final : public FuenteAzar {
+  public:
+    float Rnd() override;
+    void Randomize(float semilla);
+
+  private:
+    std::uint64_t estado_ = 0x5375706572546972ULL;
+};
+
+// The source in use: the program's generator unless a test has put another in.
+FuenteAzar &Azar();
+// Puts a source in place of the generator; nullptr gives the generator back.
+void UsaFuenteAzar(FuenteAzar *fuente);
+// Seeds the program's generator.
+void Randomize(float semilla);
+// The time of day in seconds since midnight, as the seed is taken.
+float SegundosDesdeMedianoche();
+// Back to the generator in its fixed initial state, as at start-up.
+void ReiniciaAzar();
+
+// floor(n * Azar().Rnd()), through the source in use.
+inline Integer AlAzar(Integer n)
+{
+    return Azar().Elige(n);
+}
