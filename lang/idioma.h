@@ -1,0 +1,45 @@
+#pragma once
+// Every language-dependent text of the program, in the language last loaded.
+
+#include <QString>
+
+#include <functional>
+
+extern QString strAcerca;
+extern QString strSalir;
+extern QString strSeleccionIdioma;
+extern QString strTitulo;
+extern QString strOpciones;
+extern QString strAcercaTexto;
+extern QString strAceptar;
+extern QString strCancelar;
+extern QString strAcercaTitulo;
+extern QString strJugadorUno;
+extern QString strJugadorDos;
+extern QString strFacil;
+extern QString strMedio;
+extern QString strNoGanas;
+extern QString strNivelMenu;
+extern QString strNuevoJuego;
+extern QString strOponentesMenu;
+extern QString strOponentes;
+extern QString strNombrePrimero;
+extern QString strNombreSegundo;
+extern QString strGana;
+extern QString strFelicidades;
+extern QString strEmpate;
+extern QString strTurnoDe;
+extern QString strPierdes;
+extern QString strTuTurno;
+extern QString strNivel;
+
+// Overwrites all the texts above with English or Spanish ones. The language
+// window's own label and title are handed to `textosSeleccion` on the way.
+void CargaTextos(
+    bool ingles,
+    const std::function<void(const QString &gracias, const QString &titulo)> &textosSeleccion);
+
+// The caption application: copies the texts into the main window, the level
+// dialog and the opponents dialog, creating those hidden where they do not
+// exist, and composes the main window's title from the game title and Nivel.
+void AplicaIdioma();

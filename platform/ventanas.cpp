@@ -1,0 +1,179 @@
+#include "ventanas.h"
+
+#include <QApplication>
+#include <QButtonGroup>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QLayout>
+#include <QMainWindow>
+#include <QMessageBox>
+#include <QRadioButton>
+#include <QScreen>
+
+QFont FuentePrograma(double puntos, bool negrita)
+{
+    QFont f;
+    // Faces metric-compatible with the classic dialog font come first; the
+    // desktop's own sans-serif is the last resort.
+    f.setFamilies({QStringLiteral("MS Sans Serif"), QStringLiteral("Liberation Sans"),
+                   QStringLiteral("Arial"), QStringLiteral("Nimbus Sans"),
+                   QStringLiteral("DejaVu Sans"), QStringLiteral("Sans Serif")});
+    f.setStyleHint(QFont::SansSerif);
+    f.setPointSizeF(puntos);
+    f.setWeight(negrita ? QFont::Bold : QFont::Normal);
+    return f;
+}
+
+QIcon IconoPrograma()
+{
+    static const QIcon icono(QStringLiteral(":/icons/supertirlo.xpm"));
+    return icono;
+}
+
+Dialogo::Dialogo(const QString &titulo, int anchoTw, int altoTw, Qt::WindowFlags botones)
+    : QDialog(nullptr, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | botones)
+{
+    setWindowTitle(titulo);
+    setWindowIcon(IconoPrograma());
+    setFont(FuentePrograma());
+    resize(Tw(anchoTw), Tw(altoTw));
+}
+
+void Dialogo::Muestra()
+{
+    CentraVentana(this);
+    show();
+}
+
+void Dialogo::MuestraModal()
+{
+    CentraVentana(this);
+    setWindowModality(Qt::ApplicationModal);
+    exec();
+}
+
+void Dialogo::closeEvent(QCloseEvent *e)
+{
+    if (!descargado_) {
+        descargado_ = true;
+        deleteLater();
+    }
+    e->accept();
+}
+
+void CentraVentana(QWidget *w)
+{
+    if (w->layout())
+        w->adjustSize(); // a laid-out window knows its size only once adjusted
+    QRect sobre;
+    for (QWidget *t : QApplication::topLevelWidgets())
+        if (qobject_cast<QMainWindow *>(t) && t->isVisible() && t != w)
+            sobre = t->frameGeometry();
+    if (sobre.isNull())
+        sobre = (w->screen() ? w->screen() : QGuiApplication::primaryScreen())->availableGeometry();
+    w->move(sobre.center() - w->rect().center());
+}
+
+Panel3D::Panel3D(QWidget *padre, const QRect &geometria, Qt::Alignment alineacion) : QLabel(padre)
+{
+    setGeometry(geometria);
+    setFrameStyle(QFrame::Panel | QFrame::Raised);
+    setLineWidth(2);
+    setFont(FuentePrograma(8.25, true));
+    setAlignment(alineacion);
+    setFocusPolicy(Qt::NoFocus);
+    setTextFormat(Qt::PlainText);
+    setAutoFillBackground(true);
+    QPalette p = palette();
+    p.setColor(QPalette::Window, QColor(236, 233, 216));
+    // Dark text whatever the desktop theme: the panel is always light.
+    p.setColor(QPalette::WindowText, Qt::black);
+    p.setColor(QPalette::Text, Qt::black);
+    p.setColor(QPalette::ButtonText, Qt::black);
+    setPalette(p);
+}
+
+GrupoOpciones::GrupoOpciones(QObject *dueno) : grupo_(new QButtonGroup(dueno))
+{
+    QObject::connect(grupo_, &QButtonGroup::idToggled, grupo_, [this](int id, bool marcado) {
+        if (marcado && Click)
+            Click(static_cast<Integer>(id));
+    });
+}
+
+QRadioButton *GrupoOpciones::Agrega(QWidget *padre, const QRect &geometria, const QString &texto)
+{
+    auto *opcion = new QRadioButton(texto, padre);
+    opcion->setGeometry(geometria);
+    grupo_->addButton(opcion, static_cast<int>(grupo_->buttons().size()));
+    return opcion;
+}
+
+void GrupoOpciones::Selecciona(int indice)
+{
+    Opcion(indice)->setChecked(true);
+}
+
+bool GrupoOpciones::Valor(int indice) const
+{
+    return Opcion(indice)->isChecked();
+}
+
+void GrupoOpciones::Limpia()
+{
+    // An exclusive group keeps one button checked; lift that while clearing.
+    grupo_->setExclusive(false);
+    for (QAbstractButton *b : grupo_->buttons())
+        b->setChecked(false);
+    grupo_->setExclusive(true);
+}
+
+QRadioButton *GrupoOpciones::Opcion(int indice) const
+{
+    return static_cast<QRadioButton *>(grupo_->button(indice));
+}
+
+CajaTexto::CajaTexto(QWidget *padre, const QRect &geometria, int largoMaximo) : QLineEdit(padre)
+{
+    setGeometry(geometria);
+    setMaxLength(largoMaximo);
+}
+
+void CajaTexto::keyPressEvent(QKeyEvent *e)
+{
+    const bool enter = e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter;
+    const int shift = (e->modifiers() & Qt::ShiftModifier ? 1 : 0) |
+                      (e->modifiers() & Qt::ControlModifier ? 2 : 0) |
+                      (e->modifiers() & Qt::AltModifier ? 4 : 0);
+    if (KeyDown)
+        KeyDown(enter ? 13 : e->key(), shift);
+    if (enter)
+        e->accept(); // handled: the dialog's default button must not see it too
+    else
+        QLineEdit::keyPressEvent(e);
+}
+
+void MsgBoxInformacion(QWidget *padre, const QString &titulo, const QString &texto)
+{
+    QMessageBox caja(QMessageBox::Information, titulo, texto, QMessageBox::Ok, padre);
+    caja.setWindowIcon(IconoPrograma());
+    caja.exec();
+}
+
+void TerminaPrograma()
+{
+    for (QWidget *w : QApplication::topLevelWidgets())
+        w->close();
+    QCoreApplication::exit(0);
+}
+
+QString Trim(const QString &texto)
+{
+    qsizetype inicio = 0;
+    qsizetype fin = texto.size();
+    while (inicio < fin && texto[inicio] == u' ')
+        ++inicio;
+    while (fin > inicio && texto[fin - 1] == u' ')
+        --fin;
+    return texto.mid(inicio, fin - inicio);
+}

@@ -1,0 +1,59 @@
+#pragma once
+// Driving the real windows headless: a fresh program per test, modal windows
+// answered from the event loop, and short ways to the controls.
+
+#include "apoyo.h"
+#include "formularios.h"
+
+#include <QApplication>
+#include <QPushButton>
+#include <QString>
+
+#include <functional>
+#include <ostream>
+
+// Readable failures.
+inline void PrintTo(const QString &s, std::ostream *os)
+{
+    *os << '"' << s.toStdString() << '"';
+}
+
+// Every window destroyed, the state as before Main, the texts empty, the
+// generator back to its initial state.
+void ReiniciaPrograma();
+
+// Runs `accion` on the next modal window to open (one that is not the
+// active modal window right now), as soon as it is up.
+void CuandoModal(std::function<void(QWidget *)> accion);
+
+// Main, then the language window's choice and Accept: the main window is up.
+void Arranca(bool ingles);
+
+// Clicks the buttons, in order.
+void Clic(QAbstractButton *b);
+void Juega(std::initializer_list<int> botones);
+
+// The nine captions in button order, "." for an empty one.
+std::string Casillas();
+QString Estado();
+QString Titulo();
+
+// Answers the opponents dialog that opens next: types the two names and
+// presses OK (or Cancel when `cancela`).
+void RespondeOponentes(const QString &uno, const QString &dos, bool cancela = false);
+
+// The information box that is up: its title and text, then OK.
+struct Mensaje {
+    QString titulo;
+    QString texto;
+};
+Mensaje CierraMensaje(QWidget *caja);
+
+// Whether some top-level window of this type is visible.
+template <class T> bool Visible()
+{
+    for (QWidget *w : QApplication::topLevelWidgets())
+        if (qobject_cast<T *>(w) && w->isVisible())
+            return true;
+    return false;
+}

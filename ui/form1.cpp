@@ -1,0 +1,268 @@
+#include "form1.h"
+
+#include "azar.h"
+#include "estado.h"
+#include "formularios.h"
+#include "idioma.h"
+#include "movimiento.h"
+
+#include <QCloseEvent>
+#include <QLayout>
+#include <QMenuBar>
+#include <QPainter>
+#include <QPushButton>
+
+namespace {
+
+// The client area, with the grid drawn on it beneath the buttons and the panel.
+class Superficie : public QWidget {
+  public:
+    explicit Superficie(QWidget *padre) : QWidget(padre) { setFixedSize(Tw(4785), Tw(4875)); }
+
+  protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter p(this);
+        p.setPen(QPen(palette().color(QPalette::WindowText), 3, Qt::SolidLine, Qt::FlatCap));
+        for (int x : {1695, 2895}) // Line1 0 and 1
+            p.drawLine(Tw(x), Tw(630), Tw(x), Tw(4230));
+        for (int y : {1830, 2910}) // Line2 2 and 0
+            p.drawLine(Tw(375), Tw(y), Tw(4395), Tw(y));
+    }
+};
+
+QString Nombre(const std::string &jugador)
+{
+    return QString::fromStdString(jugador);
+}
+
+} // namespace
+
+namespace ui {
+
+Form1::Form1()
+{
+    setWindowTitle(QStringLiteral("Super Tirlo"));
+    setWindowIcon(IconoPrograma());
+    setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                   Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
+                   Qt::WindowCloseButtonHint);
+    setFont(FuentePrograma());
+
+    auto *superficie = new Superficie(this);
+    setCentralWidget(superficie);
+
+    Panel = new Panel3D(superficie, TwRect(570, 90, 3585, 585));
+
+    const QFont marcas = FuentePrograma(24);
+    for (int k = 0; k < 9; ++k) {
+        auto *b = new QPushButton(superficie);
+        b->setGeometry(TwRect(615 + 1200 * (k % 3), 870 + 1080 * (k / 3), 945, 825));
+        b->setFont(marcas);
+        b->setAutoDefault(false);
+        connect(b, &QPushButton::clicked, this,
+                [this, k] { cmdtir_Click(static_cast<Integer>(k)); });
+        cmdtir[static_cast<std::size_t>(k)] = b;
+    }
+    cmdnuevo = new QPushButton(QStringLiteral("&Nuevo Juego"), superficie);
+    cmdnuevo->setGeometry(TwRect(1695, 4380, 1215, 405));
+    connect(cmdnuevo, &QPushButton::clicked, this, [this] { cmdnuevo_Click(); });
+
+    // Tab order: the bottom-right square first, then 0 to 7, then new game.
+    setTabOrder(cmdtir[8], cmdtir[0]);
+    for (std::size_t k = 0; k + 1 < 8; ++k)
+        setTabOrder(cmdtir[k], cmdtir[k + 1]);
+    setTabOrder(cmdtir[7], cmdnuevo);
+    cmdtir[8]->setFocus();
+
+    mnuOpciones = menuBar()->addMenu(QStringLiteral("&Opciones"));
+    const auto item = [this](const QString &texto, void (Form1::*handler)(), bool marcable) {
+        QAction *a = mnuOpciones->addAction(texto);
+        a->setCheckable(marcable);
+        connect(a, &QAction::triggered, this, [this, a, handler, marcable] {
+            // The handlers decide the check marks: undo Qt's own toggle.
+            if (marcable)
+                a->setChecked(!a->isChecked());
+            (this->*handler)();
+        });
+        return a;
+    };
+    mnu1vs2 = item(QStringLiteral("&1 vs 2"), &Form1::mnu1vs2_Click, true);
+    mnuvspc = item(QStringLiteral("&Vs PC"), &Form1::mnuvspc_Click, true);
+    mnuvspc->setChecked(true);
+    mnuOpciones->addSeparator();
+    mnuNivel = item(QStringLiteral("&Nivel"), &Form1::mnuNivel_Click, false);
+    mnuoponentes = item(QStringLiteral("&Oponentes"), &Form1::mnuoponentes_Click, false);
+    mnuoponentes->setEnabled(false);
+    mnuSeleccionIdioma =
+        item(QStringLiteral("&Selección de idioma"), &Form1::mnuSeleccionIdioma_Click, false);
+    mnuacerca = item(QStringLiteral("&Acerca"), &Form1::mnuacerca_Click, false);
+    mnuSalir = item(QStringLiteral("&Salir"), &Form1::mnuSalir_Click, false);
+
+    layout()->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void Form1::Form_Load()
+{
+    Nivel = 3;
+    AplicaIdioma();
+    Modo = 1;
+    cmdnuevo_Click();
+    // Seeded last: the first game is set up from the generator's fixed state.
+    Randomize(SegundosDesdeMedianoche());
+}
+
+void Form1::Muestra()
+{
+    CentraVentana(this);
+    show();
+}
+
+void Form1::closeEvent(QCloseEvent *e)
+{
+    if (!descargado_) {
+        descargado_ = true;
+        deleteLater();
+        TerminaPrograma();
+    }
+    e->accept();
+}
+
+void Form1::cmdtir_Click(Integer Index)
+{
+    QPushButton *boton = cmdtir[static_cast<std::size_t>(Index)];
+    if (!boton->text().isEmpty() || !Jugando)
+        return;
+    cmdnuevo->setEnabled(false);
+    const int c = Index % 3;
+    const int r = Index / 3;
+    if (Modo == 1 || Turno == 1) {
+        boton->setText(QStringLiteral("X"));
+        Tablero(c, r) = kEquis;
+    } else {
+        boton->setText(QStringLiteral("0"));
+        Tablero(c, r) = kCero;
+    }
+
+    if (HayGanador(Tablero))
+        FinDePartida(Modo == 1 ? strFelicidades
+                               : strGana + Trim(Nombre(Turno == 1 ? Jugador1 : Jugador2)) +
+                                     QStringLiteral("!"));
+    else if (TableroLleno(Tablero))
+        FinDePartida(strEmpate);
+
+    if (Modo == 2 && Jugando) {
+        Turno = Turno == 1 ? 2 : 1;
+        Panel->setText(strTurnoDe + Nombre(Turno == 1 ? Jugador1 : Jugador2));
+    }
+    if (Modo == 1 && Jugando) {
+        if (!MovimientoPC(Tablero))
+            return;
+        PintaComputadora();
+        if (HayGanador(Tablero))
+            FinDePartida(strPierdes);
+        else if (TableroLleno(Tablero))
+            FinDePartida(strEmpate);
+        else
+            Panel->setText(strTuTurno);
+    }
+}
+
+void Form1::cmdnuevo_Click()
+{
+    cmdnuevo->setEnabled(false);
+    LimpiaTablero(Tablero);
+    for (QPushButton *b : cmdtir)
+        b->setText(QString());
+    if (Modo != 1) {
+        Turno = static_cast<Integer>(AlAzar(2) + 1);
+        Jugando = true;
+        Panel->setText(strTurnoDe + Nombre(Turno == 1 ? Jugador1 : Jugador2));
+    }
+    if (Modo == 1) {
+        if (AlAzar(2) == 0) {
+            MovimientoPC(Tablero);
+            PintaComputadora();
+        }
+        Jugando = true;
+        Panel->setText(strTuTurno);
+    }
+}
+
+// Shows "0" on every square the computer holds that still has no caption.
+void Form1::PintaComputadora()
+{
+    for (int k = 0; k < 9; ++k) {
+        QPushButton *b = cmdtir[static_cast<std::size_t>(k)];
+        if (Tablero(k % 3, k / 3) == kCero && b->text().isEmpty())
+            b->setText(QStringLiteral("0"));
+    }
+}
+
+void Form1::FinDePartida(const QString &mensaje)
+{
+    Panel->setText(mensaje);
+    cmdnuevo->setEnabled(true);
+    Jugando = false;
+}
+
+void Form1::mnu1vs2_Click()
+{
+    if (mnu1vs2->isChecked())
+        return;
+    mnuoponentes->setEnabled(true);
+    mnuvspc->setChecked(false);
+    mnu1vs2->setChecked(true);
+    mnuNivel->setEnabled(false);
+    mnuoponentes_Click();
+    Modo = 2;
+    Turno = static_cast<Integer>(AlAzar(2) + 1); // replaced by the new game; only the draw counts
+    cmdnuevo_Click();
+}
+
+void Form1::mnuvspc_Click()
+{
+    if (mnuvspc->isChecked())
+        return;
+    mnuoponentes->setEnabled(false);
+    mnuvspc->setChecked(true);
+    mnu1vs2->setChecked(false);
+    mnuNivel->setEnabled(true);
+    Nivel = 3;
+    AplicaIdioma();
+    Modo = 1;
+    cmdnuevo_Click();
+}
+
+void Form1::mnuNivel_Click()
+{
+    ::frmNivel().optNivel.Limpia();
+    ::frmNivel().optNivel.Selecciona(Nivel - 1);
+    ::frmNivel().MuestraModal();
+    AplicaIdioma();
+    cmdnuevo_Click();
+}
+
+void Form1::mnuoponentes_Click()
+{
+    ::frmoponentes().MuestraModal();
+}
+
+void Form1::mnuSeleccionIdioma_Click()
+{
+    DesdeMenu = true;
+    ::frmSeleccion().MuestraModal();
+    AplicaIdioma();
+}
+
+void Form1::mnuacerca_Click()
+{
+    ::frmAbout().MuestraModal();
+}
+
+void Form1::mnuSalir_Click()
+{
+    close();
+}
+
+} // namespace ui

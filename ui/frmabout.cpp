@@ -1,0 +1,38 @@
+#include "frmabout.h"
+
+#include "idioma.h"
+
+#include <QPushButton>
+
+namespace ui {
+
+frmAbout::frmAbout() : Dialogo(QStringLiteral("About..."), 5625, 2130, Qt::WindowCloseButtonHint)
+{
+    setFixedSize(size());
+    QPalette p = palette();
+    p.setColor(QPalette::Window, QColor(192, 192, 192));
+    setPalette(p);
+    setAutoFillBackground(true);
+
+    cmdAceptar = new QPushButton(QStringLiteral("&&Ok"), this);
+    cmdAceptar->setGeometry(TwRect(2145, 1680, 1335, 375));
+    connect(cmdAceptar, &QPushButton::clicked, this, [this] { cmdAceptar_Click(); });
+    Panel = new Panel3D(this, TwRect(120, 90, 5355, 1515), Qt::AlignLeft | Qt::AlignTop);
+    Panel->setMargin(2);
+    cmdAceptar->setFocus();
+}
+
+void frmAbout::Form_Load()
+{
+    // The text keeps its CR LF line ends; the label breaks lines at LF.
+    Panel->setText(QString(strAcercaTexto).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+    cmdAceptar->setText(strAceptar);
+    setWindowTitle(strAcercaTitulo);
+}
+
+void frmAbout::cmdAceptar_Click()
+{
+    Descarga();
+}
+
+} // namespace ui

@@ -1,0 +1,96 @@
+#include "frmoponentes.h"
+
+#include "estado.h"
+#include "idioma.h"
+
+#include <QLabel>
+#include <QPushButton>
+
+namespace ui {
+
+frmoponentes::frmoponentes()
+    : Dialogo(QStringLiteral("Oponentes"), 3990, 2235, Qt::WindowCloseButtonHint)
+{
+    Command1 = new QPushButton(QStringLiteral("&Aceptar"), this);
+    Command1->setGeometry(TwRect(728, 1800, 975, 375));
+    connect(Command1, &QPushButton::clicked, this, [this] { Command1_Click(); });
+    Command2 = new QPushButton(QStringLiteral("&Cancelar"), this);
+    Command2->setGeometry(TwRect(2288, 1800, 975, 375));
+    connect(Command2, &QPushButton::clicked, this, [this] { Command2_Click(); });
+
+    SSPanel1 = new Panel3D(this, TwRect(60, 60, 3885, 1665));
+    label[0] = new QLabel(QStringLiteral("Nombre del primer oponente:"), SSPanel1);
+    label[0]->setGeometry(TwRect(225, 240, 3015, 255));
+    Text1[0] = new CajaTexto(SSPanel1, TwRect(225, 480, 3255, 285), 15);
+    Label1 = new QLabel(QStringLiteral("Nombre del segundo oponente:"), SSPanel1);
+    Label1->setGeometry(TwRect(225, 870, 2775, 255));
+    Text1[1] = new CajaTexto(SSPanel1, TwRect(210, 1110, 3255, 285), 15);
+    for (Integer i = 0; i < 2; ++i)
+        Text1[static_cast<std::size_t>(i)]->KeyDown = [this, i](int codigo, int shift) {
+            Text1_KeyDown(i, codigo, shift);
+        };
+    for (QWidget *w : {static_cast<QWidget *>(label[0]), static_cast<QWidget *>(Label1),
+                       static_cast<QWidget *>(Text1[0]), static_cast<QWidget *>(Text1[1])})
+        w->setFont(FuentePrograma());
+    label[0]->setBuddy(Text1[0]);
+    Label1->setBuddy(Text1[1]);
+
+    setTabOrder(Command1, Command2);
+    setTabOrder(Command2, Text1[1]);
+    setTabOrder(Text1[1], Text1[0]);
+    Command1->setFocus();
+}
+
+void frmoponentes::Form_Load()
+{
+    Command1->setText(strAceptar);
+    Command2->setText(strCancelar);
+    setWindowTitle(strOponentes);
+    label[0]->setText(strNombrePrimero);
+    Label1->setText(strNombreSegundo);
+}
+
+void frmoponentes::Command1_Click()
+{
+    const QString uno = Text1[0]->text();
+    const QString dos = Text1[1]->text();
+    if (Trim(uno).isEmpty() || Trim(dos).isEmpty()) {
+        Informa(QStringLiteral("Favor de introducir los nombres de los oponentes"),
+                QStringLiteral("Please write the names"));
+        return;
+    }
+    // Compared as typed: "Ana" and "Ana " are two different names.
+    if (uno == dos) {
+        Informa(QStringLiteral("Error: los oponentes son los mismos."),
+                QStringLiteral("Error: the opponents are same."));
+        return;
+    }
+    Jugador1 = Trim(uno).toStdString();
+    Jugador2 = Trim(dos).toStdString();
+    Descarga();
+}
+
+void frmoponentes::Command2_Click()
+{
+    Jugador1 = strJugadorUno.toStdString();
+    Jugador2 = strJugadorDos.toStdString();
+    Descarga();
+}
+
+void frmoponentes::Text1_KeyDown(Integer, int KeyCode, int)
+{
+    if (KeyCode == 13)
+        Command1_Click();
+}
+
+// The information box in the language of Idioma, then back to the first name.
+void frmoponentes::Informa(const QString &textoEs, const QString &textoEn)
+{
+    if (Idioma == 1)
+        MsgBoxInformacion(this, QStringLiteral("Información"), textoEs);
+    else
+        MsgBoxInformacion(this, QStringLiteral("Information"), textoEn);
+    Text1[0]->setFocus();
+}
+
+} // namespace ui

@@ -1,0 +1,33 @@
+#pragma once
+// The language window: first window of every run, and reopened from the menu
+// to switch the language of every window at once.
+
+#include "ventanas.h"
+
+class QLabel;
+class QPushButton;
+
+namespace ui {
+
+class frmSeleccion : public Dialogo {
+  public:
+    frmSeleccion();
+    void Form_Load() override;
+    void optEspañol_Click();
+    void optIngles_Click();
+    void cmdAceptar_Click();
+    void cmdSalir_Click();
+
+    Panel3D *Panel;
+    QLabel *lblGracias;
+    GrupoOpciones opciones; // 0 optIngles, 1 optEspañol
+    QRadioButton *optIngles;
+    QRadioButton *optEspañol;
+    QPushButton *cmdAceptar;
+    QPushButton *cmdSalir;
+
+  private:
+    void CargaIdioma();
+};
+
+} // namespace ui
