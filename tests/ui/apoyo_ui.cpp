@@ -4,6 +4,7 @@
 #include "idioma.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QRadioButton>
 #include <QTest>
@@ -19,7 +20,9 @@ void ReiniciaPrograma()
         ventanas.append(w);
     for (const QPointer<QWidget> &w : ventanas)
         delete w.data();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    // A full turn of the application's loop: pending deletions and quit
+    // requests are consumed, and an earlier end of the program is forgotten.
+    CorreHastaElFin([] { QCoreApplication::exit(0); });
     BorraEstado();
     for (QString *s : {&strAcerca,        &strSalir,         &strSeleccionIdioma,
                        &strTitulo,        &strOpciones,      &strAcercaTexto,
@@ -32,6 +35,19 @@ void ReiniciaPrograma()
                        &strPierdes,       &strTuTurno,       &strNivel})
         s->clear();
     ReiniciaAzar();
+}
+
+int CorreHastaElFin(const std::function<void()> &accion)
+{
+    QTimer inicio;
+    inicio.setSingleShot(true);
+    QObject::connect(&inicio, &QTimer::timeout, accion);
+    QTimer limite;
+    limite.setSingleShot(true);
+    QObject::connect(&limite, &QTimer::timeout, [] { QCoreApplication::exit(99); });
+    inicio.start(0);
+    limite.start(3000);
+    return QCoreApplication::exec();
 }
 
 void CuandoModal(std::function<void(QWidget *)> accion)
@@ -64,11 +80,26 @@ void Arranca(bool ingles)
         Clic(seleccion.optIngles);
     Clic(seleccion.cmdAceptar);
     ASSERT_TRUE(Form1.Existe());
+    // Let the closed language window settle, as the running program would.
+    QCoreApplication::sendPostedEvents();
+}
+
+void Teclea(QWidget *w, const QString &texto)
+{
+    for (QChar c : texto) {
+        QKeyEvent pulsa(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QString(c));
+        QKeyEvent suelta(QEvent::KeyRelease, Qt::Key_unknown, Qt::NoModifier, QString(c));
+        QApplication::sendEvent(w, &pulsa);
+        QApplication::sendEvent(w, &suelta);
+    }
 }
 
 void Clic(QAbstractButton *b)
 {
-    QTest::mouseClick(b, Qt::LeftButton);
+    // An option button takes clicks on its circle and caption only, not on
+    // the empty rest of its rectangle.
+    const bool opcion = qobject_cast<QRadioButton *>(b) != nullptr;
+    QTest::mouseClick(b, Qt::LeftButton, {}, opcion ? QPoint(6, b->height() / 2) : QPoint());
 }
 
 void Juega(std::initializer_list<int> botones)
@@ -100,8 +131,8 @@ void RespondeOponentes(const QString &uno, const QString &dos, bool cancela)
     CuandoModal([=](QWidget *w) {
         auto *d = dynamic_cast<ui::frmoponentes *>(w);
         ASSERT_NE(d, nullptr);
-        QTest::keyClicks(d->Text1[0], uno);
-        QTest::keyClicks(d->Text1[1], dos);
+        Teclea(d->Text1[0], uno);
+        Teclea(d->Text1[1], dos);
         Clic(cancela ? d->Command2 : d->Command1);
     });
 }

@@ -22,12 +22,20 @@ inline void PrintTo(const QString &s, std::ostream *os)
 // generator back to its initial state.
 void ReiniciaPrograma();
 
+// Runs the application's event loop with `accion` as its first event and
+// returns the loop's exit code once the program ends by itself (99 if it has
+// not ended within three seconds).
+int CorreHastaElFin(const std::function<void()> &accion);
+
 // Runs `accion` on the next modal window to open (one that is not the
 // active modal window right now), as soon as it is up.
 void CuandoModal(std::function<void(QWidget *)> accion);
 
 // Main, then the language window's choice and Accept: the main window is up.
 void Arranca(bool ingles);
+
+// Types the text key by key, any Unicode letter included.
+void Teclea(QWidget *w, const QString &texto);
 
 // Clicks the buttons, in order.
 void Clic(QAbstractButton *b);
