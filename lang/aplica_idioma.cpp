@@ -29,4 +29,6 @@ void AplicaIdioma()
     frmoponentes().label[0]->setText(strNombrePrimero);
     frmoponentes().Label1->setText(strNombreSegundo);
     Form1().mnuoponentes->setText(strOponentesMenu);
+    // Not a caption: what a screen reader says of the squares follows the language too.
+    Form1().ActualizaAccesibles();
 }

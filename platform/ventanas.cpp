@@ -1,5 +1,8 @@
 #include "ventanas.h"
 
+#include "icono.h"
+
+#include <QAccessible>
 #include <QApplication>
 #include <QButtonGroup>
 #include <QCloseEvent>
@@ -22,12 +25,6 @@ QFont FuentePrograma(double puntos, bool negrita)
     f.setPointSizeF(puntos);
     f.setWeight(negrita ? QFont::Bold : QFont::Normal);
     return f;
-}
-
-QIcon IconoPrograma()
-{
-    static const QIcon icono(QStringLiteral(":/icons/supertirlo.xpm"));
-    return icono;
 }
 
 Dialogo::Dialogo(const QString &titulo, int anchoTw, int altoTw, Qt::WindowFlags botones)
@@ -91,6 +88,13 @@ Panel3D::Panel3D(QWidget *padre, const QRect &geometria, Qt::Alignment alineacio
     p.setColor(QPalette::Text, Qt::black);
     p.setColor(QPalette::ButtonText, Qt::black);
     setPalette(p);
+}
+
+void Panel3D::Caption(const QString &texto)
+{
+    setText(texto);
+    QAccessibleEvent cambio(this, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&cambio);
 }
 
 GrupoOpciones::GrupoOpciones(QObject *dueno) : grupo_(new QButtonGroup(dueno))

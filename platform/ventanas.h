@@ -5,6 +5,7 @@
 // the raised 3-D panel, text boxes with a KeyDown handler, message boxes.
 
 #include "entero.h"
+#include "icono.h"
 
 #include <QDialog>
 #include <QLabel>
@@ -30,9 +31,6 @@ inline QRect TwRect(int left, int top, int width, int height)
 
 // "MS Sans Serif" where it exists, otherwise the closest sans-serif face.
 QFont FuentePrograma(double puntos = 8.25, bool negrita = false);
-
-// The program's icon, the same on every window.
-QIcon IconoPrograma();
 
 // A window of the program: its design is built by the constructor, Form_Load
 // runs right after, and once unloaded it is gone for good.
@@ -88,6 +86,9 @@ void CentraVentana(QWidget *w);
 class Panel3D : public QLabel {
   public:
     Panel3D(QWidget *padre, const QRect &geometria, Qt::Alignment alineacion = Qt::AlignCenter);
+    // Shows the text and tells assistive technology that it changed, so a
+    // screen reader announces every new message.
+    void Caption(const QString &texto);
 };
 
 // Option buttons in one container: exactly one selected, or none after Limpia.

@@ -2,7 +2,8 @@
 # Builds everything and runs the whole test suite headless.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-bash tools/deps.sh build-essential cmake qt6-base-dev libgtest-dev libgmock-dev libbenchmark-dev
+bash tools/deps.sh build-essential cmake qt6-base-dev libgtest-dev libgmock-dev libbenchmark-dev \
+    desktop-file-utils appstream dpkg-dev file xvfb xauth xdotool
 cmake -S . -B build -DCMAKE_BUILD_TYPE=Release
 cmake --build build -j"$(nproc)"
 export QT_QPA_PLATFORM=offscreen

@@ -1,5 +1,6 @@
 #include "form1.h"
 
+#include "accesible.h"
 #include "azar.h"
 #include "estado.h"
 #include "formularios.h"
@@ -130,6 +131,12 @@ void Form1::closeEvent(QCloseEvent *e)
 
 void Form1::cmdtir_Click(Integer Index)
 {
+    JuegaCasilla(Index);
+    ActualizaAccesibles();
+}
+
+void Form1::JuegaCasilla(Integer Index)
+{
     QPushButton *boton = cmdtir[static_cast<std::size_t>(Index)];
     if (!boton->text().isEmpty() || !Jugando)
         return;
@@ -153,7 +160,7 @@ void Form1::cmdtir_Click(Integer Index)
 
     if (Modo == 2 && Jugando) {
         Turno = Turno == 1 ? 2 : 1;
-        Panel->setText(strTurnoDe + Nombre(Turno == 1 ? Jugador1 : Jugador2));
+        Panel->Caption(strTurnoDe + Nombre(Turno == 1 ? Jugador1 : Jugador2));
     }
     if (Modo == 1 && Jugando) {
         if (!MovimientoPC(Tablero))
@@ -164,7 +171,7 @@ void Form1::cmdtir_Click(Integer Index)
         else if (TableroLleno(Tablero))
             FinDePartida(strEmpate);
         else
-            Panel->setText(strTuTurno);
+            Panel->Caption(strTuTurno);
     }
 }
 
@@ -177,7 +184,7 @@ void Form1::cmdnuevo_Click()
     if (Modo != 1) {
         Turno = static_cast<Integer>(AlAzar(2) + 1);
         Jugando = true;
-        Panel->setText(strTurnoDe + Nombre(Turno == 1 ? Jugador1 : Jugador2));
+        Panel->Caption(strTurnoDe + Nombre(Turno == 1 ? Jugador1 : Jugador2));
     }
     if (Modo == 1) {
         if (AlAzar(2) == 0) {
@@ -185,8 +192,9 @@ void Form1::cmdnuevo_Click()
             PintaComputadora();
         }
         Jugando = true;
-        Panel->setText(strTuTurno);
+        Panel->Caption(strTuTurno);
     }
+    ActualizaAccesibles();
 }
 
 // Shows "0" on every square the computer holds that still has no caption.
@@ -199,9 +207,18 @@ void Form1::PintaComputadora()
     }
 }
 
+void Form1::ActualizaAccesibles()
+{
+    for (int k = 0; k < 9; ++k) {
+        QPushButton *b = cmdtir[static_cast<std::size_t>(k)];
+        b->setAccessibleName(NombreCasilla(k, b->text()));
+        b->setAccessibleDescription(DescripcionCasilla());
+    }
+}
+
 void Form1::FinDePartida(const QString &mensaje)
 {
-    Panel->setText(mensaje);
+    Panel->Caption(mensaje);
     cmdnuevo->setEnabled(true);
     Jugando = false;
 }

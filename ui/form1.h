@@ -43,11 +43,16 @@ class Form1 : public QMainWindow, public Formulario {
     QAction *mnuacerca;
     QAction *mnuSalir;
 
+    // The squares' accessible names and descriptions, from their captions,
+    // in the language of Idioma.
+    void ActualizaAccesibles();
+
   protected:
     // Form_Unload: closing the main window ends the program.
     void closeEvent(QCloseEvent *e) override;
 
   private:
+    void JuegaCasilla(Integer Index);
     void PintaComputadora();
     void FinDePartida(const QString &mensaje);
 };

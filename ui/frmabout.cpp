@@ -25,7 +25,7 @@ frmAbout::frmAbout() : Dialogo(QStringLiteral("About..."), 5625, 2130, Qt::Windo
 void frmAbout::Form_Load()
 {
     // The text keeps its CR LF line ends; the label breaks lines at LF.
-    Panel->setText(QString(strAcercaTexto).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+    Panel->Caption(QString(strAcercaTexto).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
     cmdAceptar->setText(strAceptar);
     setWindowTitle(strAcercaTitulo);
 }
