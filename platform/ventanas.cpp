@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QButtonGroup>
 #include <QCloseEvent>
+#include <QFontDatabase>
 #include <QKeyEvent>
 #include <QLayout>
 #include <QMainWindow>
@@ -15,12 +16,13 @@
 
 QFont FuentePrograma(double puntos, bool negrita)
 {
+    // The classic dialog face where it is installed, else a face with the
+    // classic widths (the layout is measured for them), else the desktop's
+    // own sans-serif, at the same point sizes.
     QFont f;
-    // Faces metric-compatible with the classic dialog font come first; the
-    // desktop's own sans-serif is the last resort.
     f.setFamilies({QStringLiteral("MS Sans Serif"), QStringLiteral("Liberation Sans"),
-                   QStringLiteral("Arial"), QStringLiteral("Nimbus Sans"),
-                   QStringLiteral("DejaVu Sans"), QStringLiteral("Sans Serif")});
+                   QStringLiteral("Arial"),
+                   QFontDatabase::systemFont(QFontDatabase::GeneralFont).family()});
     f.setStyleHint(QFont::SansSerif);
     f.setPointSizeF(puntos);
     f.setWeight(negrita ? QFont::Bold : QFont::Normal);

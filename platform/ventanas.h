@@ -29,7 +29,7 @@ inline QRect TwRect(int left, int top, int width, int height)
     return {Tw(left), Tw(top), Tw(width), Tw(height)};
 }
 
-// "MS Sans Serif" where it exists, otherwise the closest sans-serif face.
+// "MS Sans Serif" where it exists, otherwise the desktop's sans-serif.
 QFont FuentePrograma(double puntos = 8.25, bool negrita = false);
 
 // A window of the program: its design is built by the constructor, Form_Load

@@ -21,7 +21,7 @@ done
 
 cpack --config "$build/CPackConfig.cmake" -B "$scratch/pkg" > /dev/null
 deb=$(ls "$scratch"/pkg/*.deb)
-dpkg-deb -f "$deb" Depends | grep -q 'libqt6widgets6'
+dpkg-deb -f "$deb" Depends | grep 'libqt6widgets6' | grep -q 'fonts-liberation2'
 dpkg-deb -x "$deb" "$scratch/root"
 binary=$scratch/root/usr/bin/supertirlo
 test -x "$binary"

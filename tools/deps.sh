@@ -1,8 +1,17 @@
 #!/usr/bin/env bash
-# Installs, with apt-get, whichever of the named Debian packages are missing.
+# Installs, with apt-get, the Debian packages that one use of the project
+# needs and that are missing.
+#   deps.sh build | test | shots
 set -euo pipefail
+build=(build-essential cmake qt6-base-dev libgtest-dev libgmock-dev libbenchmark-dev fonts-liberation2)
+case "${1:-}" in
+    build) wanted=("${build[@]}") ;;
+    test) wanted=("${build[@]}" desktop-file-utils appstream dpkg-dev file xvfb xauth xdotool) ;;
+    shots) wanted=("${build[@]}" xvfb xauth xdotool x11-utils imagemagick openbox) ;;
+    *) echo "usage: $0 build|test|shots" >&2; exit 2 ;;
+esac
 missing=()
-for pkg in "$@"; do
+for pkg in "${wanted[@]}"; do
     dpkg-query -W -f='${Status}' "$pkg" 2>/dev/null | grep -q 'install ok installed' || missing+=("$pkg")
 done
 [ ${#missing[@]} -eq 0 ] && exit 0

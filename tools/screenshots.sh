@@ -7,8 +7,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 out=${1:-build/shots}
 scale=${2:-1}
-bash tools/deps.sh build-essential cmake qt6-base-dev libgtest-dev libgmock-dev libbenchmark-dev \
-    xvfb xauth xdotool x11-utils imagemagick openbox
+bash tools/deps.sh shots
 cmake -S . -B build -DCMAKE_BUILD_TYPE=Release > /dev/null
 cmake --build build -j"$(nproc)" --target supertirlo > /dev/null
 mkdir -p "$out"
@@ -62,6 +61,7 @@ main=$(window "El famoso juego del tirlo")
 square "$main" 0
 square "$main" 3
 shot 03-main-es-game
+import -window "$main" "$out/main-window.png" # the picture for the README
 keys alt+o
 shot 04-menu-es
 keys n

@@ -2,8 +2,7 @@
 # Builds everything and runs the whole test suite headless.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-bash tools/deps.sh build-essential cmake qt6-base-dev libgtest-dev libgmock-dev libbenchmark-dev \
-    desktop-file-utils appstream dpkg-dev file xvfb xauth xdotool
+bash tools/deps.sh test
 cmake -S . -B build -DCMAKE_BUILD_TYPE=Release
 cmake --build build -j"$(nproc)"
 export QT_QPA_PLATFORM=offscreen
