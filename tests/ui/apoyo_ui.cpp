@@ -50,7 +50,7 @@ int CorreHastaElFin(const std::function<void()> &accion)
     return QCoreApplication::exec();
 }
 
-void CuandoModal(std::function<void(QWidget *)> accion)
+QPointer<QObject> CuandoModal(std::function<void(QWidget *)> accion)
 {
     auto *reloj = new QTimer;
     QPointer<QWidget> antes = QApplication::activeModalWidget();
@@ -61,7 +61,7 @@ void CuandoModal(std::function<void(QWidget *)> accion)
             reloj->stop();
             reloj->deleteLater();
             accion(m);
-        } else if (++*intentos > 2000) {
+        } else if (++*intentos > 100000) {
             reloj->stop();
             reloj->deleteLater();
             ADD_FAILURE() << "no modal window opened";
@@ -69,7 +69,8 @@ void CuandoModal(std::function<void(QWidget *)> accion)
                 m->close();
         }
     });
-    reloj->start(1);
+    reloj->start(0);
+    return reloj;
 }
 
 void Arranca(bool ingles)

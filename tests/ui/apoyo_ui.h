@@ -28,8 +28,9 @@ void ReiniciaPrograma();
 int CorreHastaElFin(const std::function<void()> &accion);
 
 // Runs `accion` on the next modal window to open (one that is not the
-// active modal window right now), as soon as it is up.
-void CuandoModal(std::function<void(QWidget *)> accion);
+// active modal window right now), as soon as it is up. The watcher is gone
+// once it has acted.
+QPointer<QObject> CuandoModal(std::function<void(QWidget *)> accion);
 
 // Main, then the language window's choice and Accept: the main window is up.
 void Arranca(bool ingles);

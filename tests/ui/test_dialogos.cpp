@@ -163,6 +163,7 @@ TEST_F(Dialogos, LevelTakesEffectOnTheClick)
         EXPECT_FALSE(d->optNivel.Valor(0));
         EXPECT_TRUE(d->optNivel.Valor(1));
         EXPECT_FALSE(d->optNivel.Valor(2));
+        ASSERT_TRUE(QTest::qWaitForWindowActive(d));
         d->optNivel.Opcion(1)->setFocus();
         QTest::keyClick(d->optNivel.Opcion(1), Qt::Key_Up);
         EXPECT_EQ(Nivel, 1);
