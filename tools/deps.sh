@@ -1,14 +1,15 @@
 #!/usr/bin/env bash
 # Installs, with apt-get, the Debian packages that one use of the project
 # needs and that are missing.
-#   deps.sh build | test | shots
+#   deps.sh build | test | bench | shots
 set -euo pipefail
 build=(build-essential cmake qt6-base-dev libgtest-dev libgmock-dev libbenchmark-dev fonts-liberation2)
 case "${1:-}" in
     build) wanted=("${build[@]}") ;;
     test) wanted=("${build[@]}" desktop-file-utils appstream dpkg-dev file xvfb xauth xdotool) ;;
+    bench) wanted=("${build[@]}" libx11-dev xvfb xauth x11-utils) ;;
     shots) wanted=("${build[@]}" xvfb xauth xdotool x11-utils imagemagick openbox) ;;
-    *) echo "usage: $0 build|test|shots" >&2; exit 2 ;;
+    *) echo "usage: $0 build|test|bench|shots" >&2; exit 2 ;;
 esac
 missing=()
 for pkg in "${wanted[@]}"; do

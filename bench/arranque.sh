@@ -1,0 +1,41 @@
+#!/usr/bin/env bash
+# Start-up and idle cost of the game against the floor: the smallest Qt Widgets
+# program of the same shape. Each is started RUNS times (default 9, alternating)
+# on a private Xvfb; the medians of the time from exec to the first window
+# being mapped, the CPU used by then, the peak RSS, and the CPU used over five
+# idle seconds (from one second after the map) are printed with the ratios to
+# the floor.
+#   bash bench/arranque.sh [RUNS]
+set -euo pipefail
+cd "$(dirname "$0")/.."
+runs=${1:-9}
+bash tools/deps.sh bench
+cmake -S . -B build -DCMAKE_BUILD_TYPE=Release > /dev/null
+cmake --build build -j"$(nproc)" --target supertirlo minimo mapeo > /dev/null
+
+display=:$((500 + RANDOM % 400))
+Xvfb "$display" -screen 0 1024x768x24 -nolisten tcp > /dev/null 2>&1 &
+xvfb=$!
+trap 'kill $xvfb 2> /dev/null || true' EXIT
+export DISPLAY=$display
+for _ in $(seq 50); do xdpyinfo > /dev/null 2>&1 && break; sleep 0.1; done
+unset QT_QPA_PLATFORM QT_SCALE_FACTOR
+
+out=$(mktemp -d)
+for i in $(seq "$runs"); do
+    ./build/bench/mapeo ./build/bench/minimo >> "$out/minimo"
+    ./build/bench/mapeo ./build/supertirlo >> "$out/supertirlo"
+    printf '.' >&2
+done
+echo >&2
+
+median() { sort -n | awk '{v[NR] = $1} END {print (NR % 2) ? v[(NR + 1) / 2] : (v[NR / 2] + v[NR / 2 + 1]) / 2}'; }
+col() { awk -v c="$2" '{print $c}' "$out/$1" | median; }
+printf '%-12s %10s %10s %12s %12s\n' program map_ms cpu_ms peak_rss_kb idle_cpu_ms
+for p in minimo supertirlo; do
+    printf '%-12s %10s %10s %12s %12s\n' "$p" "$(col $p 1)" "$(col $p 2)" "$(col $p 3)" "$(col $p 4)"
+done
+awk -v a="$(col supertirlo 1)" -v b="$(col minimo 1)" -v c="$(col supertirlo 3)" -v d="$(col minimo 3)" \
+    -v e="$(col supertirlo 4)" 'BEGIN {
+    printf "start-up %.2fx the floor (target 1.2x), peak RSS %.2fx (target 1.1x), idle CPU %s ms in 5 s (target 0)\n", a / b, c / d, e }'
+rm -rf "$out"
