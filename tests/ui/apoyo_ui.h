@@ -18,6 +18,11 @@ inline void PrintTo(const QString &s, std::ostream *os)
     *os << '"' << s.toStdString() << '"';
 }
 
+// The draw that decides who opens a game against the computer: from 0.5 up
+// the person does, below it the computer.
+constexpr float kPersonaAbre = 0.75f;
+constexpr float kPCAbre = 0.25f;
+
 // Every window destroyed, the state as before Main, the texts empty, the
 // generator back to its initial state.
 void ReiniciaPrograma();

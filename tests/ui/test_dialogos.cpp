@@ -138,7 +138,7 @@ TEST_F(Dialogos, OpponentsEnterRightAfterOpeningAndEnglishMessages)
 
 TEST_F(Dialogos, LevelTakesEffectOnTheClick)
 {
-    AzarGuionado azar({0.75f});
+    AzarGuionado azar({kPersonaAbre});
     Arranca(false);
     Juega({0});
     CuandoModal([](QWidget *w) {
@@ -150,7 +150,7 @@ TEST_F(Dialogos, LevelTakesEffectOnTheClick)
         EXPECT_EQ(Nivel, 2);
         d->close(); // no OK
     });
-    azar.Agrega({0.75f});
+    azar.Agrega({kPersonaAbre});
     Form1().mnuNivel->trigger();
     EXPECT_EQ(Nivel, 2);
     EXPECT_EQ(Titulo(), "El famoso juego del tirlo (Nivel 2)");
@@ -169,7 +169,7 @@ TEST_F(Dialogos, LevelTakesEffectOnTheClick)
         EXPECT_EQ(Nivel, 1);
         Clic(d->cmdok);
     });
-    azar.Agrega({0.75f});
+    azar.Agrega({kPersonaAbre});
     Form1().mnuNivel->trigger();
     EXPECT_EQ(Titulo(), "El famoso juego del tirlo (Nivel 1)");
     EXPECT_EQ(azar.Excedidas(), 0);

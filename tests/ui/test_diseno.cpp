@@ -19,7 +19,7 @@ class Diseno : public ::testing::Test {
 
 TEST_F(Diseno, GeometryInPixelsAtFifteenTwipsEach)
 {
-    AzarGuionado azar({0.75f});
+    AzarGuionado azar({kPersonaAbre});
     Arranca(false);
     ui::Form1 &f = Form1();
     EXPECT_EQ(f.centralWidget()->size(), QSize(319, 325));
@@ -46,7 +46,7 @@ TEST_F(Diseno, GeometryInPixelsAtFifteenTwipsEach)
 
 TEST_F(Diseno, TabOrderStartsOnTheBottomRightSquare)
 {
-    AzarGuionado azar({0.75f});
+    AzarGuionado azar({kPersonaAbre});
     Arranca(false);
     ui::Form1 &f = Form1();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&f));

@@ -73,7 +73,7 @@ void CabenLosRotulos(QWidget *ventana)
 
 TEST_F(Escritorio, SquaresAreNamedInTheCurrentLanguage)
 {
-    AzarGuionado azar({0.75f});
+    AzarGuionado azar({kPersonaAbre});
     Arranca(false);
     ui::Form1 &f = Form1();
     EXPECT_EQ(Accesible(f.cmdtir[0]), QStringLiteral("Casilla 1, fila 1, columna 1: vacía"));
@@ -92,7 +92,7 @@ TEST_F(Escritorio, SquaresAreNamedInTheCurrentLanguage)
     EXPECT_EQ(Accesible(f.cmdtir[8]), "Square 9, row 3, column 3: empty");
     EXPECT_EQ(Accesible(f.cmdtir[8], QAccessible::Description), "Press to play on this square");
 
-    azar.Agrega({0.75f});
+    azar.Agrega({kPersonaAbre});
     Clic(f.cmdnuevo); // disabled during a game: nothing happens
     EXPECT_EQ(Accesible(f.cmdtir[0]), "Square 1, row 1, column 1: X");
     f.cmdnuevo_Click();
@@ -101,7 +101,7 @@ TEST_F(Escritorio, SquaresAreNamedInTheCurrentLanguage)
 
 TEST_F(Escritorio, StatusPanelSpeaksItsMessageAndBoxesAreLabelled)
 {
-    AzarGuionado azar({0.75f});
+    AzarGuionado azar({kPersonaAbre});
     Arranca(true);
     EXPECT_EQ(Accesible(Form1().Panel), "Your turn");
     Juega({0, 1, 3});
@@ -134,7 +134,7 @@ TEST_F(Escritorio, EveryCaptionFitsItsControlInBothLanguages)
 
 TEST_F(Escritorio, TheGridStaysBetweenTheSquaresAtAnyScale)
 {
-    AzarGuionado azar({0.75f}); // the person opens: the squares stay empty
+    AzarGuionado azar({kPersonaAbre}); // the person opens: the squares stay empty
     Arranca(false);
     ui::Form1 &f = Form1();
     const QImage imagen = f.centralWidget()->grab().toImage();

@@ -72,31 +72,6 @@ TEST_F(Idiomas, AboutTextHasSixLinesAndNeverGrows)
     }
 }
 
-TEST_F(Idiomas, TheTextsThatAreEasyToGetWrong)
-{
-    QString gracias, titulo;
-    CargaTextos(true, [&](const QString &g, const QString &t) {
-        gracias = g;
-        titulo = t;
-    });
-    EXPECT_EQ(gracias, "Thank you for to play my game");
-    EXPECT_EQ(titulo, "Idiom selection");
-    EXPECT_TRUE(strTurnoDe.isEmpty());
-    EXPECT_EQ(strGana, "Win ");
-    EXPECT_EQ(strSeleccionIdioma, "&Idiom Selection");
-
-    CargaTextos(false, [&](const QString &g, const QString &t) {
-        gracias = g;
-        titulo = t;
-    });
-    EXPECT_EQ(gracias, "Gracias por jugar mi juego");
-    EXPECT_EQ(titulo, QStringLiteral("Selección de idioma"));
-    EXPECT_EQ(strTurnoDe, "Turno de ");
-    EXPECT_EQ(strGana, QStringLiteral("¡Gana el jugador "));
-    EXPECT_EQ(strTitulo, "El famoso juego del tirlo");
-    EXPECT_EQ(strSeleccionIdioma, QStringLiteral("Se&lección de idioma"));
-}
-
 TEST_F(Idiomas, CaptionsInSpanish)
 {
     Arranca(false);

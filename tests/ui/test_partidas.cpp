@@ -1,14 +1,11 @@
-// Whole games in the main window, driven by clicks, with scripted draws.
+// Games in the main window, driven by clicks, with scripted draws (the games
+// against the computer to every outcome are in the whole sessions).
 #include "apoyo_ui.h"
 #include "estado.h"
 
 #include <gtest/gtest.h>
 
 namespace {
-
-// x >= 0.5: the person opens against the computer; below, the computer does.
-constexpr float kPersonaAbre = 0.75f;
-constexpr float kPCAbre = 0.25f;
 
 class Partidas : public ::testing::Test {
   protected:
@@ -26,75 +23,6 @@ void DosJugadores(AzarGuionado &azar, const QString &uno, const QString &dos, fl
 }
 
 } // namespace
-
-TEST_F(Partidas, AgainstTheComputerEveryOutcomeInSpanish)
-{
-    // The centre opening; the corner 0, then the forcing move 1; the person
-    // forks through 2 and wins on 5.
-    AzarGuionado azar({kPersonaAbre, 0.0f, 0.0f});
-    Arranca(false);
-    EXPECT_EQ(Casillas(), ".........");
-    EXPECT_EQ(Estado(), "Tu turno");
-    Juega({4});
-    EXPECT_EQ(Casillas(), "0...X....");
-    EXPECT_EQ(Estado(), "Tu turno");
-    Juega({8, 2});
-    EXPECT_EQ(Casillas(), "00X.X.0.X");
-    Juega({5});
-    EXPECT_EQ(Estado(), QStringLiteral("¡Felicidades tu ganas!"));
-    EXPECT_FALSE(Jugando);
-    EXPECT_TRUE(Form1().cmdnuevo->isEnabled());
-    EXPECT_EQ(Casillas(), "00X.XX0.X"); // the computer did not answer the win
-
-    // Clicks after the end change nothing.
-    Juega({3, 7});
-    EXPECT_EQ(Casillas(), "00X.XX0.X");
-    EXPECT_EQ(Estado(), QStringLiteral("¡Felicidades tu ganas!"));
-
-    // A loss: 0, 1 and 3 let the computer complete 2-4-6.
-    azar.Agrega({kPersonaAbre});
-    Clic(Form1().cmdnuevo);
-    EXPECT_EQ(Casillas(), ".........");
-    EXPECT_FALSE(Form1().cmdnuevo->isEnabled());
-    Juega({0, 1});
-    Juega({1}); // taken: ignored
-    EXPECT_EQ(Casillas(), "XX0.0....");
-    Juega({3});
-    EXPECT_EQ(Estado(), "Lo siento tu pierdes");
-    EXPECT_EQ(Casillas(), "XX0X0.0..");
-
-    // A draw on the person's fifth move: the computer is not asked again.
-    azar.Agrega({kPersonaAbre, 0.0f});
-    Clic(Form1().cmdnuevo);
-    Juega({0, 8, 7, 2, 3});
-    EXPECT_EQ(Casillas(), "X0XX000XX");
-    EXPECT_EQ(Estado(), QStringLiteral("¡Juego empatado!"));
-    EXPECT_EQ(azar.Excedidas(), 0);
-}
-
-TEST_F(Partidas, TheComputersReplyFillsTheBoardInEnglish)
-{
-    AzarGuionado azar({kPCAbre, 0.0f});
-    Arranca(true);
-    EXPECT_EQ(Casillas(), "....0....");
-    EXPECT_EQ(Estado(), "Your turn");
-    Juega({0, 3, 2, 7});
-    EXPECT_EQ(Casillas(), "X0XX000X0");
-    EXPECT_EQ(Estado(), "Draw game!");
-
-    azar.Agrega({kPCAbre});
-    Clic(Form1().cmdnuevo);
-    Juega({0, 3, 2, 8});
-    EXPECT_EQ(Casillas(), "X0XX0000X");
-    EXPECT_EQ(Estado(), "You lose");
-    EXPECT_TRUE(TableroLleno(Tablero));
-
-    azar.Agrega({kPersonaAbre, 0.0f, 0.0f});
-    Clic(Form1().cmdnuevo);
-    Juega({4, 8, 2, 5});
-    EXPECT_EQ(Estado(), "Congratulations, you win!");
-    EXPECT_EQ(azar.Excedidas(), 0);
-}
 
 TEST_F(Partidas, CellsAndCaptionsStayInStep)
 {

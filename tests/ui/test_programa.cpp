@@ -139,7 +139,7 @@ TEST_F(Programa, LanguageFromTheMenuSwitchesEveryWindowAtOnce)
 
 TEST_F(Programa, ModeSwitchesAndTheSameModeDoesNothing)
 {
-    AzarGuionado azar({0.75f, 0.0f});
+    AzarGuionado azar({kPersonaAbre, 0.0f});
     Arranca(false);
     Juega({4});
     const std::string tablero = Casillas();
@@ -153,7 +153,7 @@ TEST_F(Programa, ModeSwitchesAndTheSameModeDoesNothing)
         Clic(dynamic_cast<ui::frmNivel *>(w)->optNivel.Opcion(0));
         w->close();
     });
-    azar.Agrega({0.75f});
+    azar.Agrega({kPersonaAbre});
     Form1().mnuNivel->trigger();
     EXPECT_EQ(Nivel, 1);
     RespondeOponentes("", "", true);
@@ -171,7 +171,7 @@ TEST_F(Programa, ModeSwitchesAndTheSameModeDoesNothing)
     EXPECT_EQ(azar.Sacadas(), antes);
 
     // Back against the computer: level 3 again.
-    azar.Agrega({0.75f});
+    azar.Agrega({kPersonaAbre});
     Form1().mnuvspc->trigger();
     EXPECT_EQ(Nivel, 3);
     EXPECT_EQ(Titulo(), "El famoso juego del tirlo (Nivel 3)");
@@ -182,7 +182,7 @@ TEST_F(Programa, ModeSwitchesAndTheSameModeDoesNothing)
 
 TEST_F(Programa, NamesChangedMidGameKeepTheBoard)
 {
-    AzarGuionado azar({0.75f, 0.0f, 0.0f});
+    AzarGuionado azar({kPersonaAbre, 0.0f, 0.0f});
     Arranca(false);
     RespondeOponentes("Ana", "Beto");
     Form1().mnu1vs2->trigger();
@@ -198,7 +198,7 @@ TEST_F(Programa, NamesChangedMidGameKeepTheBoard)
 
 TEST_F(Programa, LevelDialogClosedUnchangedStillStartsANewGame)
 {
-    AzarGuionado azar({0.75f, 0.75f});
+    AzarGuionado azar({kPersonaAbre, kPersonaAbre});
     Arranca(false);
     Juega({0});
     CuandoModal([](QWidget *w) { Clic(dynamic_cast<ui::frmNivel *>(w)->cmdok); });
@@ -217,7 +217,8 @@ TEST_F(Programa, ExitFromTheMenuEndsTheProgram)
     EXPECT_FALSE(AlgunaVisible());
 }
 
-// One session per language: every outcome, two players to a win, exit.
+// One session per language: every outcome against the computer, ignored
+// clicks, two players to a win, exit.
 class Sesion : public Programa, public ::testing::WithParamInterface<bool> {};
 
 TEST_P(Sesion, FromStartToExit)
@@ -226,18 +227,50 @@ TEST_P(Sesion, FromStartToExit)
     const auto texto = [ingles](const char *es, const char *en) {
         return QString::fromUtf8(ingles ? en : es);
     };
-    AzarGuionado azar({0.75f, 0.0f, 0.0f});
+    // The centre; the corner 0, then the forcing move 1; the person forks
+    // through 2 and wins on 5, and the computer does not answer the win.
+    AzarGuionado azar({kPersonaAbre, 0.0f, 0.0f});
     Arranca(ingles);
-    Juega({4, 8, 2, 5});
+    EXPECT_EQ(Estado(), texto("Tu turno", "Your turn"));
+    Juega({4});
+    EXPECT_EQ(Casillas(), "0...X....");
+    Juega({8, 2});
+    EXPECT_EQ(Casillas(), "00X.X.0.X");
+    Juega({5});
     EXPECT_EQ(Estado(), texto("¡Felicidades tu ganas!", "Congratulations, you win!"));
-    azar.Agrega({0.75f});
+    EXPECT_TRUE(Form1().cmdnuevo->isEnabled());
+    Juega({3, 7}); // after the end: ignored
+    EXPECT_EQ(Casillas(), "00X.XX0.X");
+
+    // 0, 1 and 3 let the computer complete 2-4-6; a taken square is ignored.
+    azar.Agrega({kPersonaAbre});
     Clic(Form1().cmdnuevo);
-    Juega({0, 1, 3});
+    EXPECT_FALSE(Form1().cmdnuevo->isEnabled());
+    Juega({0, 1, 1});
+    EXPECT_EQ(Casillas(), "XX0.0....");
+    Juega({3});
+    EXPECT_EQ(Casillas(), "XX0X0.0..");
     EXPECT_EQ(Estado(), texto("Lo siento tu pierdes", "You lose"));
-    azar.Agrega({0.25f, 0.0f});
+
+    // A draw on the person's fifth move: the computer is not asked again.
+    azar.Agrega({kPersonaAbre, 0.0f});
     Clic(Form1().cmdnuevo);
-    Juega({0, 3, 2, 7});
+    Juega({0, 8, 7, 2, 3});
+    EXPECT_EQ(Casillas(), "X0XX000XX");
     EXPECT_EQ(Estado(), texto("¡Juego empatado!", "Draw game!"));
+
+    // The computer opens, and its reply fills the board: a draw, then a loss.
+    azar.Agrega({kPCAbre, 0.0f});
+    Clic(Form1().cmdnuevo);
+    EXPECT_EQ(Casillas(), "....0....");
+    Juega({0, 3, 2, 7});
+    EXPECT_EQ(Casillas(), "X0XX000X0");
+    EXPECT_EQ(Estado(), texto("¡Juego empatado!", "Draw game!"));
+    azar.Agrega({kPCAbre});
+    Clic(Form1().cmdnuevo);
+    Juega({0, 3, 2, 8});
+    EXPECT_EQ(Casillas(), "X0XX0000X");
+    EXPECT_EQ(Estado(), texto("Lo siento tu pierdes", "You lose"));
 
     azar.Agrega({0.0f, 0.0f});
     RespondeOponentes("Ana", "Beto");
