@@ -30,86 +30,86 @@ QString strNivel;
 
 namespace {
 
-// The credit lines of the About box.
-const QString kAutorEs = QStringLiteral("el equipo de Super Tirlo");
-const QString kAutorEn = QStringLiteral("the Super Tirlo team");
-const QString kContactoEs = QStringLiteral("las incidencias del proyecto");
-const QString kContactoEn = QStringLiteral("the project's issue tracker");
-const QString kPaginaEs = QStringLiteral("el repositorio del proyecto");
-const QString kPaginaEn = QStringLiteral("the project's repository");
-const QString kLugar = QStringLiteral("Internet");
+// One text in both languages.
+struct Texto {
+    QString *variable;
+    const char16_t *ingles;
+    const char16_t *espanol;
+};
 
-const QString kFinLinea = QStringLiteral("\r\n");
+void Asigna(std::initializer_list<Texto> textos, bool ingles)
+{
+    for (const Texto &t : textos)
+        *t.variable = QString::fromUtf16(ingles ? t.ingles : t.espanol);
+}
+
+// The credit lines of the About box: lead-in, then the value.
+struct Credito {
+    const char16_t *inicioIngles;
+    const char16_t *valorIngles;
+    const char16_t *inicioEspanol;
+    const char16_t *valorEspanol;
+};
+const Credito kCreditos[] = {
+    {u"Program done by ", u"the Super Tirlo team", u"Program hecho por ",
+     u"el equipo de Super Tirlo"},
+    {u"Comments in web: ", u"the project's issue tracker", u"Comentarios en el web: ",
+     u"las incidencias del proyecto"},
+    {u"Web page: ", u"the project's repository", u"Página web: ", u"el repositorio del proyecto"},
+};
+const char16_t kLugar[] = u"Internet"; // the same in both languages
+
+// The title, an empty line, the three credits and the place: six lines
+// joined by CR LF, with nothing after the last.
+QString TextoAcerca(bool ingles)
+{
+    const QString finLinea = QStringLiteral("\r\n");
+    QString texto = strTitulo + finLinea;
+    for (const Credito &c : kCreditos)
+        texto += finLinea + QString::fromUtf16(ingles ? c.inicioIngles : c.inicioEspanol) +
+                 QString::fromUtf16(ingles ? c.valorIngles : c.valorEspanol);
+    return texto + finLinea + QString::fromUtf16(kLugar);
+}
 
 } // namespace
 
 void CargaTextos(bool ingles,
                  const std::function<void(const QString &, const QString &)> &textosSeleccion)
 {
-    if (ingles) {
-        strOponentesMenu = QStringLiteral("&Opponents");
-        strOponentes = QStringLiteral("Opponents");
-        strNombrePrimero = QStringLiteral("Name to &first player:");
-        strNombreSegundo = QStringLiteral("Name to &second player:");
-        strNivel = QStringLiteral("Level");
-        strNuevoJuego = QStringLiteral("&New game");
-        strJugadorUno = QStringLiteral("player one");
-        strJugadorDos = QStringLiteral("player two");
+    Asigna({{&strOponentesMenu, u"&Opponents", u"&Oponentes"},
+            {&strOponentes, u"Opponents", u"Oponentes"},
+            {&strNombrePrimero, u"Name to &first player:", u"Nombre del &primer jugador:"},
+            {&strNombreSegundo, u"Name to &second player:", u"Nombre del &segundo jugador:"},
+            {&strNivel, u"Level", u"Nivel"},
+            {&strNuevoJuego, u"&New game", u"&Nuevo juego"},
+            {&strJugadorUno, u"player one", u"Primer jugador"},
+            {&strJugadorDos, u"player two", u"Segundo jugador"}},
+           ingles);
+    if (ingles)
         textosSeleccion(QStringLiteral("Thank you for to play my game"),
                         QStringLiteral("Idiom selection"));
-        strAcerca = QStringLiteral("&About...");
-        strSalir = QStringLiteral("&Exit");
-        strSeleccionIdioma = QStringLiteral("&Idiom Selection");
-        strTitulo = QStringLiteral("The tic tac toe");
-        strOpciones = QStringLiteral("&Options");
-        strAcercaTexto = strTitulo + kFinLinea + kFinLinea + QStringLiteral("Program done by ") +
-                         kAutorEn + kFinLinea + QStringLiteral("Comments in web: ") + kContactoEn +
-                         kFinLinea + QStringLiteral("Web page: ") + kPaginaEn + kFinLinea + kLugar;
-        strAceptar = QStringLiteral("&Ok");
-        strCancelar = QStringLiteral("&Cancel");
-        strAcercaTitulo = QStringLiteral("About...");
-        strFacil = QStringLiteral("Easy");
-        strMedio = QStringLiteral("Medium");
-        strNoGanas = QStringLiteral("You can not win");
-        strNivelMenu = QStringLiteral("&Level");
-        strGana = QStringLiteral("Win ");
-        strFelicidades = QStringLiteral("Congratulations, you win!");
-        strEmpate = QStringLiteral("Draw game!");
-        strTurnoDe = QString();
-        strPierdes = QStringLiteral("You lose");
-        strTuTurno = QStringLiteral("Your turn");
-    } else {
-        strOponentesMenu = QStringLiteral("&Oponentes");
-        strOponentes = QStringLiteral("Oponentes");
-        strNombrePrimero = QStringLiteral("Nombre del &primer jugador:");
-        strNombreSegundo = QStringLiteral("Nombre del &segundo jugador:");
-        strNuevoJuego = QStringLiteral("&Nuevo juego");
-        strNivel = QStringLiteral("Nivel");
-        strJugadorUno = QStringLiteral("Primer jugador");
-        strJugadorDos = QStringLiteral("Segundo jugador");
+    else
         textosSeleccion(QStringLiteral("Gracias por jugar mi juego"),
                         QStringLiteral("Selección de idioma"));
-        strAcerca = QStringLiteral("&Acerca...");
-        strSalir = QStringLiteral("&Salir");
-        strSeleccionIdioma = QStringLiteral("Se&lección de idioma");
-        strTitulo = QStringLiteral("El famoso juego del tirlo");
-        strOpciones = QStringLiteral("&Opciones");
-        strAcercaTexto = strTitulo + kFinLinea + kFinLinea + QStringLiteral("Program hecho por ") +
-                         kAutorEs + kFinLinea + QStringLiteral("Comentarios en el web: ") +
-                         kContactoEs + kFinLinea + QStringLiteral("Página web: ") + kPaginaEs +
-                         kFinLinea + kLugar;
-        strAceptar = QStringLiteral("&Aceptar");
-        strCancelar = QStringLiteral("&Cancelar");
-        strAcercaTitulo = QStringLiteral("Acerca...");
-        strFacil = QStringLiteral("Fácil");
-        strMedio = QStringLiteral("Medio");
-        strNoGanas = QStringLiteral("A que no ganas");
-        strNivelMenu = QStringLiteral("&Nivel");
-        strGana = QStringLiteral("¡Gana el jugador ");
-        strFelicidades = QStringLiteral("¡Felicidades tu ganas!");
-        strEmpate = QStringLiteral("¡Juego empatado!");
-        strTurnoDe = QStringLiteral("Turno de ");
-        strPierdes = QStringLiteral("Lo siento tu pierdes");
-        strTuTurno = QStringLiteral("Tu turno");
-    }
+    Asigna({{&strAcerca, u"&About...", u"&Acerca..."},
+            {&strSalir, u"&Exit", u"&Salir"},
+            {&strSeleccionIdioma, u"&Idiom Selection", u"Se&lección de idioma"},
+            {&strTitulo, u"The tic tac toe", u"El famoso juego del tirlo"},
+            {&strOpciones, u"&Options", u"&Opciones"}},
+           ingles);
+    strAcercaTexto = TextoAcerca(ingles);
+    Asigna({{&strAceptar, u"&Ok", u"&Aceptar"},
+            {&strCancelar, u"&Cancel", u"&Cancelar"},
+            {&strAcercaTitulo, u"About...", u"Acerca..."},
+            {&strFacil, u"Easy", u"Fácil"},
+            {&strMedio, u"Medium", u"Medio"},
+            {&strNoGanas, u"You can not win", u"A que no ganas"},
+            {&strNivelMenu, u"&Level", u"&Nivel"},
+            {&strGana, u"Win ", u"¡Gana el jugador "},
+            {&strFelicidades, u"Congratulations, you win!", u"¡Felicidades tu ganas!"},
+            {&strEmpate, u"Draw game!", u"¡Juego empatado!"},
+            {&strTurnoDe, u"", u"Turno de "},
+            {&strPierdes, u"You lose", u"Lo siento tu pierdes"},
+            {&strTuTurno, u"Your turn", u"Tu turno"}},
+           ingles);
 }

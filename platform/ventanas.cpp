@@ -11,6 +11,7 @@
 #include <QLayout>
 #include <QMainWindow>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
 
@@ -29,6 +30,15 @@ QFont FuentePrograma(double puntos, bool negrita)
     return f;
 }
 
+QPushButton *CreaBoton(QWidget *padre, const QString &texto, const QRect &geometria,
+                       const std::function<void()> &click)
+{
+    auto *b = new QPushButton(texto, padre);
+    b->setGeometry(geometria);
+    QObject::connect(b, &QPushButton::clicked, b, click);
+    return b;
+}
+
 Dialogo::Dialogo(const QString &titulo, int anchoTw, int altoTw, Qt::WindowFlags botones)
     : QDialog(nullptr, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | botones)
 {
@@ -36,6 +46,14 @@ Dialogo::Dialogo(const QString &titulo, int anchoTw, int altoTw, Qt::WindowFlags
     setWindowIcon(IconoPrograma());
     setFont(FuentePrograma());
     resize(Tw(anchoTw), Tw(altoTw));
+}
+
+void Dialogo::PintaFondo(const QColor &color)
+{
+    QPalette p = palette();
+    p.setColor(QPalette::Window, color);
+    setPalette(p);
+    setAutoFillBackground(true);
 }
 
 void Dialogo::Muestra()

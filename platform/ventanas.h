@@ -17,6 +17,7 @@
 
 class QAbstractButton;
 class QButtonGroup;
+class QPushButton;
 class QRadioButton;
 
 // Twips to pixels: 1440 twips to the inch at 96 logical dots per inch.
@@ -31,6 +32,10 @@ inline QRect TwRect(int left, int top, int width, int height)
 
 // "MS Sans Serif" where it exists, otherwise the desktop's sans-serif.
 QFont FuentePrograma(double puntos = 8.25, bool negrita = false);
+
+// A push button at its place in its container, whose Click runs `click`.
+QPushButton *CreaBoton(QWidget *padre, const QString &texto, const QRect &geometria,
+                       const std::function<void()> &click);
 
 // A window of the program: its design is built by the constructor, Form_Load
 // runs right after, and once unloaded it is gone for good.
@@ -67,6 +72,8 @@ template <class T> class Ventana {
 class Dialogo : public QDialog, public Formulario {
   public:
     explicit Dialogo(const QString &titulo, int anchoTw, int altoTw, Qt::WindowFlags botones);
+    // A background of its own instead of the system's button face.
+    void PintaFondo(const QColor &color);
     void Descarga() { close(); }
     // Modeless: visible at once, centred on the main window or on the screen.
     void Muestra();

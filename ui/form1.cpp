@@ -65,9 +65,8 @@ Form1::Form1()
                 [this, k] { cmdtir_Click(static_cast<Integer>(k)); });
         cmdtir[static_cast<std::size_t>(k)] = b;
     }
-    cmdnuevo = new QPushButton(QStringLiteral("&Nuevo Juego"), superficie);
-    cmdnuevo->setGeometry(TwRect(1695, 4380, 1215, 405));
-    connect(cmdnuevo, &QPushButton::clicked, this, [this] { cmdnuevo_Click(); });
+    cmdnuevo = CreaBoton(superficie, QStringLiteral("&Nuevo Juego"), TwRect(1695, 4380, 1215, 405),
+                         [this] { cmdnuevo_Click(); });
 
     // Tab order: the bottom-right square first, then 0 to 7, then new game.
     setTabOrder(cmdtir[8], cmdtir[0]);

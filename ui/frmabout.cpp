@@ -9,14 +9,10 @@ namespace ui {
 frmAbout::frmAbout() : Dialogo(QStringLiteral("About..."), 5625, 2130, Qt::WindowCloseButtonHint)
 {
     setFixedSize(size());
-    QPalette p = palette();
-    p.setColor(QPalette::Window, QColor(192, 192, 192));
-    setPalette(p);
-    setAutoFillBackground(true);
+    PintaFondo(QColor(192, 192, 192));
 
-    cmdAceptar = new QPushButton(QStringLiteral("&&Ok"), this);
-    cmdAceptar->setGeometry(TwRect(2145, 1680, 1335, 375));
-    connect(cmdAceptar, &QPushButton::clicked, this, [this] { cmdAceptar_Click(); });
+    cmdAceptar = CreaBoton(this, QStringLiteral("&&Ok"), TwRect(2145, 1680, 1335, 375),
+                           [this] { cmdAceptar_Click(); });
     Panel = new Panel3D(this, TwRect(120, 90, 5355, 1515), Qt::AlignLeft | Qt::AlignTop);
     Panel->setMargin(2);
     cmdAceptar->setFocus();

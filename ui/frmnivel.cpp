@@ -12,9 +12,8 @@ frmNivel::frmNivel()
       optNivel(this)
 {
     setFixedSize(size());
-    cmdok = new QPushButton(QStringLiteral("&Aceptar"), this);
-    cmdok->setGeometry(TwRect(900, 1440, 1095, 375));
-    connect(cmdok, &QPushButton::clicked, this, [this] { cmdok_Click(); });
+    cmdok = CreaBoton(this, QStringLiteral("&Aceptar"), TwRect(900, 1440, 1095, 375),
+                      [this] { cmdok_Click(); });
 
     SSPanel1 = new Panel3D(this, TwRect(120, 120, 2625, 1245));
     optNivel.Agrega(SSPanel1, TwRect(240, 150, 1680, 240), QStringLiteral("1._ Fácil."));

@@ -20,17 +20,12 @@ frmSeleccion::frmSeleccion()
       opciones(this)
 {
     setFixedSize(size());
-    QPalette p = palette();
-    p.setColor(QPalette::Window, QColor(192, 192, 192));
-    setPalette(p);
-    setAutoFillBackground(true);
+    PintaFondo(QColor(192, 192, 192));
 
-    cmdAceptar = new QPushButton(QStringLiteral("&Ok"), this);
-    cmdAceptar->setGeometry(TwRect(120, 1440, 1095, 375));
-    connect(cmdAceptar, &QPushButton::clicked, this, [this] { cmdAceptar_Click(); });
-    cmdSalir = new QPushButton(QStringLiteral("&Exit"), this);
-    cmdSalir->setGeometry(TwRect(1920, 1440, 1095, 375));
-    connect(cmdSalir, &QPushButton::clicked, this, [this] { cmdSalir_Click(); });
+    cmdAceptar = CreaBoton(this, QStringLiteral("&Ok"), TwRect(120, 1440, 1095, 375),
+                           [this] { cmdAceptar_Click(); });
+    cmdSalir = CreaBoton(this, QStringLiteral("&Exit"), TwRect(1920, 1440, 1095, 375),
+                         [this] { cmdSalir_Click(); });
 
     Panel = new Panel3D(this, TwRect(90, 60, 2925, 1305));
     lblGracias = new QLabel(QStringLiteral("Thank you by playing my game"), Panel);
@@ -66,19 +61,20 @@ void frmSeleccion::Form_Load()
 
 void frmSeleccion::optEspañol_Click()
 {
-    cmdAceptar->setText(QStringLiteral("&Aceptar"));
-    cmdSalir->setText(QStringLiteral("&Salir"));
-    Idioma = 1;
-    CargaIdioma();
-    if (DesdeMenu)
-        AplicaIdioma();
+    EligeIdioma(QStringLiteral("&Aceptar"), QStringLiteral("&Salir"), 1);
 }
 
 void frmSeleccion::optIngles_Click()
 {
-    cmdAceptar->setText(QStringLiteral("&Ok"));
-    cmdSalir->setText(QStringLiteral("&Exit"));
-    Idioma = 0;
+    EligeIdioma(QStringLiteral("&Ok"), QStringLiteral("&Exit"), 0);
+}
+
+// The steps both options take, with their own button captions and language.
+void frmSeleccion::EligeIdioma(const QString &aceptar, const QString &salir, Integer idioma)
+{
+    cmdAceptar->setText(aceptar);
+    cmdSalir->setText(salir);
+    Idioma = idioma;
     CargaIdioma();
     if (DesdeMenu)
         AplicaIdioma();

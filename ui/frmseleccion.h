@@ -27,6 +27,7 @@ class frmSeleccion : public Dialogo {
     QPushButton *cmdSalir;
 
   private:
+    void EligeIdioma(const QString &aceptar, const QString &salir, Integer idioma);
     void CargaIdioma();
 };
 
