@@ -20,11 +20,15 @@ QFont FuentePrograma(double puntos, bool negrita)
     // The classic dialog face where it is installed, else a face with the
     // classic widths (the layout is measured for them), else the desktop's
     // own sans-serif, at the same point sizes.
-    QFont f;
-    f.setFamilies({QStringLiteral("MS Sans Serif"), QStringLiteral("Liberation Sans"),
-                   QStringLiteral("Arial"),
-                   QFontDatabase::systemFont(QFontDatabase::GeneralFont).family()});
-    f.setStyleHint(QFont::SansSerif);
+    static const QFont base = [] {
+        QFont b;
+        b.setFamilies({QStringLiteral("MS Sans Serif"), QStringLiteral("Liberation Sans"),
+                       QStringLiteral("Arial"),
+                       QFontDatabase::systemFont(QFontDatabase::GeneralFont).family()});
+        b.setStyleHint(QFont::SansSerif);
+        return b;
+    }();
+    QFont f = base;
     f.setPointSizeF(puntos);
     f.setWeight(negrita ? QFont::Bold : QFont::Normal);
     return f;
@@ -65,8 +69,7 @@ void Dialogo::Muestra()
 void Dialogo::MuestraModal()
 {
     CentraVentana(this);
-    setWindowModality(Qt::ApplicationModal);
-    exec();
+    exec(); // without an owner: modal to the whole application
 }
 
 void Dialogo::closeEvent(QCloseEvent *e)
