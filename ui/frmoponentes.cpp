@@ -36,6 +36,7 @@ frmoponentes::frmoponentes()
     setTabOrder(Command1, Command2);
     setTabOrder(Command2, Text1[1]);
     setTabOrder(Text1[1], Text1[0]);
+    Command1->setDefault(true); // Enter presses OK unless Cancel has the focus
     Command1->setFocus();
 }
 
