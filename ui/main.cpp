@@ -2,9 +2,12 @@
 
 #include <QApplication>
 
-int main(int argc, char *argv[])
+int main(int, char *argv[])
 {
-    QApplication app(argc, argv);
+    // The game takes no arguments: not even the toolkit's own options are read.
+    int argc = 1;
+    char *soloPrograma[] = {argv[0], nullptr};
+    QApplication app(argc, soloPrograma);
     Main();
     return app.exec();
 }
