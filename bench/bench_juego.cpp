@@ -10,43 +10,10 @@
 
 namespace {
 
-// Every position with the computer to move that play against `nivel` reaches,
-// human first or computer first.
-std::vector<Board> Posiciones(Integer nivel)
-{
-    std::vector<Board> salida;
-    std::vector<bool> vista(19683, false);
-    std::vector<Board> pendientes{Board{}};
-    for (std::size_t k = 0; k < 9; ++k) {
-        Board b;
-        b.celda[k] = kEquis;
-        pendientes.push_back(b);
-    }
-    Nivel = nivel;
-    while (!pendientes.empty()) {
-        const Board b = pendientes.back();
-        pendientes.pop_back();
-        const auto clave = static_cast<std::size_t>(Clave(b));
-        if (HayGanador(b) || TableroLleno(b) || vista[clave])
-            continue;
-        vista[clave] = true;
-        salida.push_back(b);
-        for (const Respuesta &r : RespuestasPC(b))
-            if (!HayGanador(r.tablero) && !TableroLleno(r.tablero))
-                for (std::size_t k = 0; k < 9; ++k)
-                    if (r.tablero.celda[k] == kVacia) {
-                        Board s = r.tablero;
-                        s.celda[k] = kEquis;
-                        pendientes.push_back(s);
-                    }
-    }
-    return salida;
-}
-
 void BM_MovimientoPC(benchmark::State &state)
 {
     const auto nivel = static_cast<Integer>(state.range(0));
-    const std::vector<Board> posiciones = Posiciones(nivel);
+    const std::vector<Board> posiciones = PosicionesPC(nivel, Abre::Cualquiera);
     ReiniciaAzar();
     Nivel = nivel;
     for (auto _ : state)

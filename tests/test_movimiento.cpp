@@ -48,44 +48,6 @@ void SigueLinea(Integer nivel, Board b, const std::vector<int> &persona, const s
     EXPECT_TRUE(HayGanador(b)) << ComoTexto(b);
 }
 
-// Every position where the computer is to move, reachable against `nivel`.
-std::set<int> Alcanzables(Integer nivel, bool pcPrimero)
-{
-    std::set<int> vistas;
-    std::vector<Board> pendientes;
-    if (pcPrimero)
-        pendientes.push_back(Board{});
-    else
-        for (int k = 0; k < 9; ++k)
-            pendientes.push_back(Con(Board{}, k, kEquis));
-    Nivel = nivel;
-    while (!pendientes.empty()) {
-        const Board b = pendientes.back();
-        pendientes.pop_back();
-        if (HayGanador(b) || TableroLleno(b) || !vistas.insert(Clave(b)).second)
-            continue;
-        for (const Respuesta &r : RespuestasPC(b)) {
-            if (HayGanador(r.tablero) || TableroLleno(r.tablero))
-                continue;
-            for (std::size_t k = 0; k < 9; ++k)
-                if (r.tablero.celda[k] == kVacia) {
-                    Board siguiente = r.tablero;
-                    siguiente.celda[k] = kEquis;
-                    pendientes.push_back(siguiente);
-                }
-        }
-    }
-    return vistas;
-}
-
-Board DesdeClave(int clave)
-{
-    Board b;
-    for (int k = 8; k >= 0; --k, clave /= 3)
-        b.celda[static_cast<std::size_t>(k)] = static_cast<Integer>(clave % 3);
-    return b;
-}
-
 } // namespace
 
 TEST(MovimientoPC, OpeningsAndPriorities)
@@ -153,12 +115,11 @@ TEST(MovimientoPC, DiscardedForkDefenceStillDraws)
 TEST(MovimientoPC, EveryReachablePositionGetsExactlyOneMark)
 {
     for (Integer nivel : {1, 2, 3})
-        for (bool pcPrimero : {false, true}) {
-            const std::set<int> posiciones = Alcanzables(nivel, pcPrimero);
+        for (Abre quien : {Abre::Persona, Abre::Computadora}) {
+            const std::vector<Board> posiciones = PosicionesPC(nivel, quien);
             EXPECT_GT(posiciones.size(), 30u);
             Nivel = nivel;
-            for (int clave : posiciones) {
-                const Board b = DesdeClave(clave);
+            for (const Board &b : posiciones) {
                 for (const Respuesta &r : RespuestasPC(b)) {
                     ASSERT_TRUE(r.movio) << ComoTexto(b);
                     int cambios = 0;

@@ -58,6 +58,40 @@ std::vector<Respuesta> RespuestasPC(const Board &tablero)
     return salida;
 }
 
+std::vector<Board> PosicionesPC(Integer nivel, Abre quien)
+{
+    std::vector<Board> pendientes;
+    if (quien != Abre::Persona)
+        pendientes.push_back(Board{});
+    if (quien != Abre::Computadora)
+        for (std::size_t k = 0; k < 9; ++k) {
+            Board b;
+            b.celda[k] = kEquis;
+            pendientes.push_back(b);
+        }
+    std::vector<Board> salida;
+    std::vector<bool> vista(19683, false);
+    Nivel = nivel;
+    while (!pendientes.empty()) {
+        const Board b = pendientes.back();
+        pendientes.pop_back();
+        const auto clave = static_cast<std::size_t>(Clave(b));
+        if (HayGanador(b) || TableroLleno(b) || vista[clave])
+            continue;
+        vista[clave] = true;
+        salida.push_back(b);
+        for (const Respuesta &r : RespuestasPC(b))
+            if (!HayGanador(r.tablero) && !TableroLleno(r.tablero))
+                for (std::size_t k = 0; k < 9; ++k)
+                    if (r.tablero.celda[k] == kVacia) {
+                        Board siguiente = r.tablero;
+                        siguiente.celda[k] = kEquis;
+                        pendientes.push_back(siguiente);
+                    }
+    }
+    return salida;
+}
+
 Analisis::Analisis(Integer nivel) : nivel_(nivel), memo_(19683, -1.0) {}
 
 double Analisis::AlMover(const Board &tablero)

@@ -16,6 +16,13 @@ struct Respuesta {
 // Every distinct board MovimientoPC can leave, at the current Nivel.
 std::vector<Respuesta> RespuestasPC(const Board &tablero);
 
+// Who opened the games whose positions are wanted.
+enum class Abre { Persona, Computadora, Cualquiera };
+
+// Every distinct position with the computer to move that play against the
+// level `nivel` reaches, whatever the person plays and the computer draws.
+std::vector<Board> PosicionesPC(Integer nivel, Abre quien);
+
 // The person's best chance to win against one level, playing "X".
 class Analisis {
   public:
