@@ -14,7 +14,6 @@ void BM_MovimientoPC(benchmark::State &state)
 {
     const auto nivel = static_cast<Integer>(state.range(0));
     const std::vector<Board> posiciones = PosicionesPC(nivel, Abre::Cualquiera);
-    ReiniciaAzar();
     Nivel = nivel;
     for (auto _ : state)
         for (const Board &p : posiciones) {

@@ -27,7 +27,7 @@ void BM_RespuestaPC(benchmark::State &state)
     UsaFuenteAzar(&azar);
     Main();
     QTest::mouseClick(frmSeleccion().cmdAceptar, Qt::LeftButton);
-    ui::Form1 &f = Form1();
+    ui::VentanaPrincipal &f = Form1();
     QWidget *tablero = f.centralWidget();
     std::vector<double> tiempos;
     int k = 0;

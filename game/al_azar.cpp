@@ -13,11 +13,11 @@ bool VaciaAlAzar(Integer &columna, Integer &fila, const Board &tablero,
     ListaCasillas lista{};
     Integer cuenta = 0;
     for (const Casilla &k : celdas)
-        if (tablero(k.Columna, k.Fila) == 0)
+        if (tablero(k.Columna, k.Fila) == kVacia)
             AgregaCasilla(lista, cuenta, k.Columna, k.Fila);
     if (cuenta == 0)
         return false;
-    const Casilla &elegida = lista[static_cast<std::size_t>(AlAzar(cuenta))];
+    const Casilla &elegida = lista[AlAzar(cuenta)];
     columna = elegida.Columna;
     fila = elegida.Fila;
     return true;

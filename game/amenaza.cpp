@@ -6,23 +6,22 @@ bool JugadaAmenaza(Integer &columna, Integer &fila, const Board &tablero)
     // (a, b) is the cell the threat aims at, column order; (s, r) the move, row order.
     for (Integer a = 0; a <= 2; ++a)
         for (Integer b = 0; b <= 2; ++b) {
-            if (tablero(a, b) != 0)
+            if (tablero(a, b) != kVacia)
                 continue;
             CopiaTablero(prueba, tablero);
             prueba(a, b) = kCero;
             for (Integer r = 0; r <= 2; ++r)
                 for (Integer s = 0; s <= 2; ++s) {
-                    if (prueba(s, r) != 0)
+                    if (prueba(s, r) != kVacia)
                         continue;
                     prueba(s, r) = kCero;
                     if (RevisaColumna(s, prueba) || RevisaFila(r, prueba) ||
-                        (prueba(0, 0) == kCero && prueba(2, 2) == kCero && prueba(1, 1) == kCero) ||
-                        (prueba(2, 0) == kCero && prueba(0, 2) == kCero && prueba(1, 1) == kCero)) {
+                        DiagonalDe(prueba, kCero)) {
                         columna = s;
                         fila = r;
                         return true;
                     }
-                    prueba(s, r) = 0;
+                    prueba(s, r) = kVacia;
                 }
         }
     return false;

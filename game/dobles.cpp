@@ -2,29 +2,29 @@
 
 #include "azar.h"
 
-bool BuscaDoble(Integer &columna, Integer &fila, const Board &tablero, const Integer &marca)
+bool BuscaDoble(Integer &columna, Integer &fila, const Board &tablero, Integer marca)
 {
     const Integer c0 = columna;
     const Integer r0 = fila;
     Board prueba;
     for (Integer c = c0; c <= 2; ++c)
         for (Integer r = r0; r <= 2; ++r) {
-            if (tablero(c, r) != 0)
+            if (tablero(c, r) != kVacia)
                 continue;
             CopiaTablero(prueba, tablero);
             bool filaHecha = false;
             bool columnaHecha = false;
             prueba(c, r) = marca;
-            for (int x = 0; x <= 2; ++x)
-                if (prueba(x, r) == 0) {
+            for (Integer x = 0; x <= 2; ++x)
+                if (prueba(x, r) == kVacia) {
                     prueba(x, r) = marca;
                     filaHecha = RevisaFila(r, prueba);
                     break;
                 }
             if (!filaHecha)
                 continue;
-            for (int y = 0; y <= 2; ++y)
-                if (prueba(c, y) == 0) {
+            for (Integer y = 0; y <= 2; ++y)
+                if (prueba(c, y) == kVacia) {
                     prueba(c, y) = marca;
                     columnaHecha = RevisaColumna(c, prueba);
                     break;
@@ -76,26 +76,25 @@ bool BloqueaDoble(Integer &columna, Integer &fila, const Board &tablero)
     Board prueba;
     for (Integer p = 0; p <= 2; ++p)
         for (Integer q = 0; q <= 2; ++q) {
-            if (!NoEstaEnLista(q, p, ListaDobles, cuentaDobles) || tablero(q, p) != 0)
+            if (!NoEstaEnLista(q, p, ListaDobles, cuentaDobles) || tablero(q, p) != kVacia)
                 continue;
             CopiaTablero(prueba, tablero);
             prueba(q, p) = kCero;
             for (Integer r = 0; r <= 2; ++r)
                 for (Integer s = 0; s <= 2; ++s) {
-                    if (!NoEstaEnLista(s, r, ListaDobles, cuentaDobles) || prueba(s, r) != 0)
+                    if (!NoEstaEnLista(s, r, ListaDobles, cuentaDobles) || prueba(s, r) != kVacia)
                         continue;
                     prueba(s, r) = kCero;
                     if (RevisaColumna(q, prueba) || RevisaFila(p, prueba) ||
-                        (prueba(0, 0) == kCero && prueba(1, 1) == kCero && prueba(2, 2) == kCero) ||
-                        (prueba(2, 0) == kCero && prueba(1, 1) == kCero && prueba(0, 2) == kCero))
+                        DiagonalDe(prueba, kCero))
                         AgregaCasilla(ListaForzadas, cuentaForzadas, q, p);
-                    prueba(s, r) = 0;
+                    prueba(s, r) = kVacia;
                 }
         }
 
     if (cuentaForzadas == 0)
         return false;
-    const Casilla &elegida = ListaForzadas[static_cast<std::size_t>(AlAzar(cuentaForzadas))];
+    const Casilla &elegida = ListaForzadas[AlAzar(cuentaForzadas)];
     columna = elegida.Columna;
     fila = elegida.Fila;
     return true;

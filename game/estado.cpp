@@ -12,22 +12,14 @@ bool DesdeMenu = false;
 
 void ValoresIniciales()
 {
-    Idioma = 1;
+    Idioma = kEspanol;
     Jugador1.clear();
     Jugador2.clear();
     DesdeMenu = false;
     Nivel = 3;
 }
 
-void BorraEstado()
+const std::string &JugadorDelTurno()
 {
-    LimpiaTablero(Tablero);
-    Jugando = false;
-    Nivel = 0;
-    Modo = 0;
-    Turno = 0;
-    Jugador1.clear();
-    Jugador2.clear();
-    Idioma = 0;
-    DesdeMenu = false;
+    return Turno == kTurnoJugador1 ? Jugador1 : Jugador2;
 }

@@ -11,7 +11,7 @@ bool JugadaBloqueo(Integer &columna, Integer &fila, const Board &tablero);
 
 // Row-and-column fork for `marca`, searched from (columna, fila) on: every
 // column starts again at the entry row. Diagonals are never considered.
-bool BuscaDoble(Integer &columna, Integer &fila, const Board &tablero, const Integer &marca);
+bool BuscaDoble(Integer &columna, Integer &fila, const Board &tablero, Integer marca);
 // The computer's own first fork cell in column order.
 bool JugadaDoble(Integer &columna, Integer &fila, const Board &tablero);
 // Defence against the person's forks: the only fork cell, or a random forcing

@@ -8,7 +8,7 @@ bool CompletaLinea(Integer &columna, Integer &fila, const Board &tablero, Intege
     Board prueba;
     for (Integer c = 0; c <= 2; ++c)
         for (Integer r = 0; r <= 2; ++r) {
-            if (tablero(c, r) != 0)
+            if (tablero(c, r) != kVacia)
                 continue;
             CopiaTablero(prueba, tablero);
             prueba(c, r) = marca;

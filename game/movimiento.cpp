@@ -5,7 +5,7 @@
 
 bool CentroLibre(const Board &tablero)
 {
-    return tablero(1, 1) == 0;
+    return tablero(1, 1) == kVacia;
 }
 
 bool MovimientoPC(Board &tablero)

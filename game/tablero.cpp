@@ -1,23 +1,31 @@
 #include "tablero.h"
 
+#include <algorithm>
+#include <cassert>
+
 void AgregaCasilla(ListaCasillas &lista, Integer &cuenta, Integer c, Integer r)
 {
-    if (cuenta < 0 || cuenta >= static_cast<Integer>(lista.size()))
-        return;
-    lista[static_cast<std::size_t>(cuenta)] = Casilla{c, r};
+    assert(cuenta >= 0 && cuenta < static_cast<Integer>(lista.size()));
+    lista[cuenta] = Casilla{c, r};
     ++cuenta;
 }
 
-bool RevisaColumna(const Integer &Columna, const Board &b)
+bool RevisaColumna(Integer Columna, const Board &b)
 {
-    const int c = Columna;
-    return b(c, 0) == b(c, 1) && b(c, 2) == b(c, 0) && b(c, 0) != 0;
+    return b(Columna, 0) == b(Columna, 1) && b(Columna, 2) == b(Columna, 0) &&
+           b(Columna, 0) != kVacia;
 }
 
-bool RevisaFila(const Integer &Fila, const Board &b)
+bool RevisaFila(Integer Fila, const Board &b)
 {
-    const int r = Fila;
-    return b(0, r) == b(1, r) && b(2, r) == b(0, r) && b(0, r) != 0;
+    return b(0, Fila) == b(1, Fila) && b(2, Fila) == b(0, Fila) && b(0, Fila) != kVacia;
+}
+
+bool DiagonalDe(const Board &b, Integer marca)
+{
+    if (b(1, 1) != marca)
+        return false;
+    return (b(0, 0) == marca && b(2, 2) == marca) || (b(2, 0) == marca && b(0, 2) == marca);
 }
 
 bool HayGanador(const Board &b)
@@ -31,41 +39,28 @@ bool HayGanador(const Board &b)
         linea = RevisaColumna(c, b) || linea;
     if (linea)
         return true;
-    if (b(1, 1) == b(2, 2) && b(0, 0) == b(1, 1) && b(2, 2) != 0)
+    if (b(1, 1) == b(2, 2) && b(0, 0) == b(1, 1) && b(2, 2) != kVacia)
         return true;
-    return b(1, 1) == b(0, 2) && b(2, 0) == b(1, 1) && b(0, 2) != 0;
+    return b(1, 1) == b(0, 2) && b(2, 0) == b(1, 1) && b(0, 2) != kVacia;
 }
 
 bool TableroLleno(const Board &b)
 {
-    for (int c = 0; c <= 2; ++c)
-        for (int r = 0; r <= 2; ++r)
-            if (b(c, r) == 0)
-                return false;
-    return true;
+    return std::find(b.celda.begin(), b.celda.end(), kVacia) == b.celda.end();
 }
 
 void CopiaTablero(Board &destino, const Board &origen)
 {
-    for (int c = 0; c <= 2; ++c)
-        for (int r = 0; r <= 2; ++r)
-            destino(c, r) = origen(c, r);
+    destino.celda = origen.celda;
 }
 
 void LimpiaTablero(Board &b)
 {
-    for (int c = 0; c <= 2; ++c)
-        for (int r = 0; r <= 2; ++r)
-            b(c, r) = 0;
+    b.celda.fill(kVacia);
 }
 
-bool NoEstaEnLista(const Integer &Columna, const Integer &Fila, const ListaCasillas &lista,
-                   const Integer &cuenta)
+bool NoEstaEnLista(Integer Columna, Integer Fila, const ListaCasillas &lista, Integer cuenta)
 {
-    for (Integer i = 0; i < cuenta && i < static_cast<Integer>(lista.size()); ++i) {
-        const Casilla &e = lista[static_cast<std::size_t>(i)];
-        if (e.Columna == Columna && e.Fila == Fila)
-            return false;
-    }
-    return true;
+    return std::none_of(lista.begin(), lista.begin() + cuenta,
+                        [&](const Casilla &e) { return e.Columna == Columna && e.Fila == Fila; });
 }

@@ -15,8 +15,8 @@ constexpr Integer kEquis = 2; // "X": the person, or the first player
 struct Board {
     std::array<Integer, 9> celda{};
 
-    Integer &operator()(int c, int r) { return celda[static_cast<std::size_t>(3 * r + c)]; }
-    Integer operator()(int c, int r) const { return celda[static_cast<std::size_t>(3 * r + c)]; }
+    Integer &operator()(int c, int r) { return celda[3 * r + c]; }
+    Integer operator()(int c, int r) const { return celda[3 * r + c]; }
     bool operator==(const Board &o) const { return celda == o.celda; }
     bool operator!=(const Board &o) const { return celda != o.celda; }
 };
@@ -29,15 +29,15 @@ struct Casilla {
 // Lists of Casilla: nine slots and a separate count of the entries in use.
 using ListaCasillas = std::array<Casilla, 9>;
 
-// Appends (c, r) and counts it; a full list drops the entry, which only
-// boards that cannot arise in play ever ask for.
+// Appends (c, r) and counts it. A list holds at most the nine cells of a board.
 void AgregaCasilla(ListaCasillas &lista, Integer &cuenta, Integer c, Integer r);
 
-bool RevisaColumna(const Integer &Columna, const Board &b);
-bool RevisaFila(const Integer &Fila, const Board &b);
+bool RevisaColumna(Integer Columna, const Board &b);
+bool RevisaFila(Integer Fila, const Board &b);
+// Either diagonal held wholly by `marca`.
+bool DiagonalDe(const Board &b, Integer marca);
 bool HayGanador(const Board &b);
 bool TableroLleno(const Board &b);
 void CopiaTablero(Board &destino, const Board &origen);
 void LimpiaTablero(Board &b);
-bool NoEstaEnLista(const Integer &Columna, const Integer &Fila, const ListaCasillas &lista,
-                   const Integer &cuenta);
+bool NoEstaEnLista(Integer Columna, Integer Fila, const ListaCasillas &lista, Integer cuenta);

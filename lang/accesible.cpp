@@ -4,7 +4,7 @@
 
 QString NombreCasilla(int boton, const QString &marca)
 {
-    const bool espanol = Idioma != 0;
+    const bool espanol = Idioma != kIngles;
     const QString contenido = !marca.isEmpty() ? marca
                               : espanol        ? QStringLiteral("vacía")
                                                : QStringLiteral("empty");
@@ -18,6 +18,6 @@ QString NombreCasilla(int boton, const QString &marca)
 
 QString DescripcionCasilla()
 {
-    return Idioma != 0 ? QStringLiteral("Pulse para jugar en esta casilla")
-                       : QStringLiteral("Press to play on this square");
+    return Idioma != kIngles ? QStringLiteral("Pulse para jugar en esta casilla")
+                             : QStringLiteral("Press to play on this square");
 }

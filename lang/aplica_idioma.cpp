@@ -10,7 +10,7 @@
 void AplicaIdioma()
 {
     const QString palabraNivel =
-        Idioma != 0 ? QStringLiteral(" (Nivel ") : QStringLiteral(" (Level ");
+        Idioma != kIngles ? QStringLiteral(" (Nivel ") : QStringLiteral(" (Level ");
     Form1().setWindowTitle(strTitulo + palabraNivel + QString::number(Nivel) + QStringLiteral(")"));
     Form1().mnuOpciones->setTitle(strOpciones);
     frmNivel().optNivel.Opcion(0)->setText(strFacil);

@@ -61,9 +61,3 @@ float SegundosDesdeMedianoche()
     localtime_r(&ahora, &local);
     return static_cast<float>(local.tm_hour * 3600 + local.tm_min * 60 + local.tm_sec);
 }
-
-void ReiniciaAzar()
-{
-    generador = GeneradorAzar();
-    fuenteActual = &generador;
-}

@@ -33,8 +33,6 @@ void UsaFuenteAzar(FuenteAzar *fuente);
 void Randomize(float semilla);
 // The time of day in seconds since midnight, as the seed is taken.
 float SegundosDesdeMedianoche();
-// Back to the generator in its fixed initial state, as at start-up.
-void ReiniciaAzar();
 
 // floor(n * Azar().Rnd()), through the source in use.
 inline Integer AlAzar(Integer n)

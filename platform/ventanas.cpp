@@ -5,7 +5,6 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QButtonGroup>
-#include <QCloseEvent>
 #include <QFontDatabase>
 #include <QKeyEvent>
 #include <QLayout>
@@ -34,22 +33,22 @@ QFont FuentePrograma(double puntos, bool negrita)
     return f;
 }
 
-QPushButton *CreaBoton(QWidget *padre, const QString &texto, const QRect &geometria,
-                       const std::function<void()> &click)
+QPushButton *CreaBoton(QWidget *padre, const QString &texto, const QRect &geometria)
 {
     auto *b = new QPushButton(texto, padre);
     b->setGeometry(geometria);
-    QObject::connect(b, &QPushButton::clicked, b, click);
     return b;
 }
 
-Dialogo::Dialogo(const QString &titulo, int anchoTw, int altoTw, Qt::WindowFlags botones)
-    : QDialog(nullptr, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | botones)
+Dialogo::Dialogo(const QString &titulo, int anchoTw, int altoTw)
 {
+    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                   Qt::WindowCloseButtonHint);
     setWindowTitle(titulo);
     setWindowIcon(IconoPrograma());
     setFont(FuentePrograma());
     resize(Tw(anchoTw), Tw(altoTw));
+    connect(this, &QDialog::finished, this, [this] { Descargate(); });
 }
 
 void Dialogo::PintaFondo(const QColor &color)
@@ -60,25 +59,10 @@ void Dialogo::PintaFondo(const QColor &color)
     setAutoFillBackground(true);
 }
 
-void Dialogo::Muestra()
-{
-    CentraVentana(this);
-    show();
-}
-
 void Dialogo::MuestraModal()
 {
     CentraVentana(this);
     exec(); // without an owner: modal to the whole application
-}
-
-void Dialogo::closeEvent(QCloseEvent *e)
-{
-    if (!descargado_) {
-        descargado_ = true;
-        deleteLater();
-    }
-    e->accept();
 }
 
 void CentraVentana(QWidget *w)
@@ -94,23 +78,37 @@ void CentraVentana(QWidget *w)
     w->move(sobre.center() - w->rect().center());
 }
 
+namespace {
+
+void EstiloPanel(QFrame *panel, const QRect &geometria)
+{
+    panel->setGeometry(geometria);
+    panel->setFrameStyle(QFrame::Panel | QFrame::Raised);
+    panel->setLineWidth(2);
+    panel->setFocusPolicy(Qt::NoFocus);
+    panel->setAutoFillBackground(true);
+    QPalette p = panel->palette();
+    p.setColor(QPalette::Window, QColor(236, 233, 216));
+    // The panel is light under every theme: its texts stay dark.
+    p.setColor(QPalette::WindowText, Qt::black);
+    panel->setPalette(p);
+}
+
+} // namespace
+
+QFrame *CreaPanel(QWidget *padre, const QRect &geometria)
+{
+    auto *panel = new QFrame(padre);
+    EstiloPanel(panel, geometria);
+    return panel;
+}
+
 Panel3D::Panel3D(QWidget *padre, const QRect &geometria, Qt::Alignment alineacion) : QLabel(padre)
 {
-    setGeometry(geometria);
-    setFrameStyle(QFrame::Panel | QFrame::Raised);
-    setLineWidth(2);
+    EstiloPanel(this, geometria);
     setFont(FuentePrograma(8.25, true));
     setAlignment(alineacion);
-    setFocusPolicy(Qt::NoFocus);
     setTextFormat(Qt::PlainText);
-    setAutoFillBackground(true);
-    QPalette p = palette();
-    p.setColor(QPalette::Window, QColor(236, 233, 216));
-    // Dark text whatever the desktop theme: the panel is always light.
-    p.setColor(QPalette::WindowText, Qt::black);
-    p.setColor(QPalette::Text, Qt::black);
-    p.setColor(QPalette::ButtonText, Qt::black);
-    setPalette(p);
 }
 
 void Panel3D::Caption(const QString &texto)
@@ -141,11 +139,6 @@ void GrupoOpciones::Selecciona(int indice)
     Opcion(indice)->setChecked(true);
 }
 
-bool GrupoOpciones::Valor(int indice) const
-{
-    return Opcion(indice)->isChecked();
-}
-
 void GrupoOpciones::Limpia()
 {
     // An exclusive group keeps one button checked; lift that while clearing.
@@ -169,11 +162,8 @@ CajaTexto::CajaTexto(QWidget *padre, const QRect &geometria, int largoMaximo) : 
 void CajaTexto::keyPressEvent(QKeyEvent *e)
 {
     const bool enter = e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter;
-    const int shift = (e->modifiers() & Qt::ShiftModifier ? 1 : 0) |
-                      (e->modifiers() & Qt::ControlModifier ? 2 : 0) |
-                      (e->modifiers() & Qt::AltModifier ? 4 : 0);
     if (KeyDown)
-        KeyDown(enter ? 13 : e->key(), shift);
+        KeyDown(enter ? 13 : e->key());
     if (enter)
         e->accept(); // handled: the dialog's default button must not see it too
     else

@@ -13,9 +13,7 @@
 #include <QPointer>
 
 #include <functional>
-#include <vector>
 
-class QAbstractButton;
 class QButtonGroup;
 class QPushButton;
 class QRadioButton;
@@ -30,22 +28,44 @@ inline QRect TwRect(int left, int top, int width, int height)
     return {Tw(left), Tw(top), Tw(width), Tw(height)};
 }
 
-// "MS Sans Serif" where it exists, otherwise the desktop's sans-serif.
+// "MS Sans Serif" where it exists, otherwise a face with its widths.
 QFont FuentePrograma(double puntos = 8.25, bool negrita = false);
 
-// A push button at its place in its container, whose Click runs `click`.
-QPushButton *CreaBoton(QWidget *padre, const QString &texto, const QRect &geometria,
-                       const std::function<void()> &click);
+// A push button at its place in its container.
+QPushButton *CreaBoton(QWidget *padre, const QString &texto, const QRect &geometria);
 
-// A window of the program: its design is built by the constructor, Form_Load
-// runs right after, and once unloaded it is gone for good.
-class Formulario {
+// Centres a top-level window on the main window, or on its screen when the
+// main window is not shown.
+void CentraVentana(QWidget *w);
+
+// What every window of the program shares, on top of its Qt window class:
+// the constructor builds the design, Form_Load runs right after, and once
+// unloaded the window is destroyed and never used again.
+template <class VentanaQt> class Formulario : public VentanaQt {
   public:
-    virtual ~Formulario() = default;
     virtual void Form_Load() {}
     bool Descargado() const { return descargado_; }
+    // Modeless: visible at once, centred.
+    void Muestra()
+    {
+        CentraVentana(this);
+        this->show();
+    }
 
   protected:
+    virtual void Form_Unload() {}
+    // The one way out: Form_Unload, then the window goes once the event
+    // loop is back.
+    void Descargate()
+    {
+        if (descargado_)
+            return;
+        descargado_ = true;
+        this->deleteLater();
+        Form_Unload();
+    }
+
+  private:
     bool descargado_ = false;
 };
 
@@ -67,29 +87,24 @@ template <class T> class Ventana {
     QPointer<T> w_;
 };
 
-// A dialog window. Closing it by any means (its own buttons through Descarga,
-// the title-bar button, Escape) unloads it.
-class Dialogo : public QDialog, public Formulario {
+// A dialog window. However it closes (its own buttons through Descarga, the
+// title-bar button, Escape) it goes through QDialog's own done and unloads.
+class Dialogo : public Formulario<QDialog> {
   public:
-    explicit Dialogo(const QString &titulo, int anchoTw, int altoTw, Qt::WindowFlags botones);
+    Dialogo(const QString &titulo, int anchoTw, int altoTw);
     // A background of its own instead of the system's button face.
     void PintaFondo(const QColor &color);
-    void Descarga() { close(); }
-    // Modeless: visible at once, centred on the main window or on the screen.
-    void Muestra();
+    void Descarga() { done(Accepted); }
     // Modal: returns only once the window has been unloaded.
     void MuestraModal();
-
-  protected:
-    void closeEvent(QCloseEvent *e) override;
-    void reject() override { close(); }
 };
 
-// Centres a top-level window on the main window, or on its screen when the
-// main window is not shown.
-void CentraVentana(QWidget *w);
+// The raised 3-D panel holding controls: bevel, RGB (236, 233, 216), dark
+// text for the labels and options on it, whatever the desktop theme; text
+// boxes on it keep the theme's own colours.
+QFrame *CreaPanel(QWidget *padre, const QRect &geometria);
 
-// The raised 3-D panel: bevel, RGB (236, 233, 216), bold text, no focus.
+// The raised 3-D panel showing a text of its own, in bold. It holds no controls.
 class Panel3D : public QLabel {
   public:
     Panel3D(QWidget *padre, const QRect &geometria, Qt::Alignment alineacion = Qt::AlignCenter);
@@ -106,7 +121,6 @@ class GrupoOpciones {
     explicit GrupoOpciones(QObject *dueno);
     QRadioButton *Agrega(QWidget *padre, const QRect &geometria, const QString &texto);
     void Selecciona(int indice);
-    bool Valor(int indice) const;
     void Limpia();
     QRadioButton *Opcion(int indice) const;
     std::function<void(Integer)> Click;
@@ -120,7 +134,7 @@ class GrupoOpciones {
 class CajaTexto : public QLineEdit {
   public:
     CajaTexto(QWidget *padre, const QRect &geometria, int largoMaximo);
-    std::function<void(int codigo, int shift)> KeyDown;
+    std::function<void(int codigo)> KeyDown;
 
   protected:
     void keyPressEvent(QKeyEvent *e) override;

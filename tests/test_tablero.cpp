@@ -83,14 +83,3 @@ TEST(Tablero, ListSearchLooksOnlyAtTheCountedEntries)
     EXPECT_FALSE(NoEstaEnLista(c, r, lista, dos));
     EXPECT_TRUE(NoEstaEnLista(r, c, lista, dos)); // (0, 2) is not (2, 0)
 }
-
-TEST(Tablero, AppendingToAFullListDropsTheEntry)
-{
-    ListaCasillas lista{};
-    Integer cuenta = 0;
-    for (Integer i = 0; i < 12; ++i)
-        AgregaCasilla(lista, cuenta, i % 3, i / 3);
-    EXPECT_EQ(cuenta, 9);
-    EXPECT_EQ(lista[8].Columna, 2);
-    EXPECT_EQ(lista[8].Fila, 2);
-}

@@ -41,7 +41,7 @@ QString Nombre(const std::string &jugador)
 
 namespace ui {
 
-Form1::Form1()
+VentanaPrincipal::VentanaPrincipal()
 {
     setWindowTitle(QStringLiteral("Super Tirlo"));
     setWindowIcon(IconoPrograma());
@@ -56,27 +56,26 @@ Form1::Form1()
     Panel = new Panel3D(superficie, TwRect(570, 90, 3585, 585));
 
     const QFont marcas = FuentePrograma(24);
-    for (int k = 0; k < 9; ++k) {
+    for (Integer k = 0; k < 9; ++k) {
         auto *b = new QPushButton(superficie);
         b->setGeometry(TwRect(615 + 1200 * (k % 3), 870 + 1080 * (k / 3), 945, 825));
         b->setFont(marcas);
-        b->setAutoDefault(false);
-        connect(b, &QPushButton::clicked, this,
-                [this, k] { cmdtir_Click(static_cast<Integer>(k)); });
-        cmdtir[static_cast<std::size_t>(k)] = b;
+        connect(b, &QPushButton::clicked, this, [this, k] { cmdtir_Click(k); });
+        cmdtir[k] = b;
     }
-    cmdnuevo = CreaBoton(superficie, QStringLiteral("&Nuevo Juego"), TwRect(1695, 4380, 1215, 405),
-                         [this] { cmdnuevo_Click(); });
+    cmdnuevo = CreaBoton(superficie, QStringLiteral("&Nuevo Juego"), TwRect(1695, 4380, 1215, 405));
+    connect(cmdnuevo, &QPushButton::clicked, this, &VentanaPrincipal::cmdnuevo_Click);
 
     // Tab order: the bottom-right square first, then 0 to 7, then new game.
     setTabOrder(cmdtir[8], cmdtir[0]);
-    for (std::size_t k = 0; k + 1 < 8; ++k)
+    for (int k = 0; k + 1 < 8; ++k)
         setTabOrder(cmdtir[k], cmdtir[k + 1]);
     setTabOrder(cmdtir[7], cmdnuevo);
     cmdtir[8]->setFocus();
 
     mnuOpciones = menuBar()->addMenu(QStringLiteral("&Opciones"));
-    const auto item = [this](const QString &texto, void (Form1::*handler)(), bool marcable) {
+    const auto item = [this](const QString &texto, void (VentanaPrincipal::*handler)(),
+                             bool marcable) {
         QAction *a = mnuOpciones->addAction(texto);
         a->setCheckable(marcable);
         connect(a, &QAction::triggered, this, [this, a, handler, marcable] {
@@ -87,62 +86,57 @@ Form1::Form1()
         });
         return a;
     };
-    mnu1vs2 = item(QStringLiteral("&1 vs 2"), &Form1::mnu1vs2_Click, true);
-    mnuvspc = item(QStringLiteral("&Vs PC"), &Form1::mnuvspc_Click, true);
+    mnu1vs2 = item(QStringLiteral("&1 vs 2"), &VentanaPrincipal::mnu1vs2_Click, true);
+    mnuvspc = item(QStringLiteral("&Vs PC"), &VentanaPrincipal::mnuvspc_Click, true);
     mnuvspc->setChecked(true);
     mnuOpciones->addSeparator();
-    mnuNivel = item(QStringLiteral("&Nivel"), &Form1::mnuNivel_Click, false);
-    mnuoponentes = item(QStringLiteral("&Oponentes"), &Form1::mnuoponentes_Click, false);
+    mnuNivel = item(QStringLiteral("&Nivel"), &VentanaPrincipal::mnuNivel_Click, false);
+    mnuoponentes = item(QStringLiteral("&Oponentes"), &VentanaPrincipal::mnuoponentes_Click, false);
     mnuoponentes->setEnabled(false);
-    mnuSeleccionIdioma =
-        item(QStringLiteral("&Selección de idioma"), &Form1::mnuSeleccionIdioma_Click, false);
-    mnuacerca = item(QStringLiteral("&Acerca"), &Form1::mnuacerca_Click, false);
-    mnuSalir = item(QStringLiteral("&Salir"), &Form1::mnuSalir_Click, false);
+    mnuSeleccionIdioma = item(QStringLiteral("&Selección de idioma"),
+                              &VentanaPrincipal::mnuSeleccionIdioma_Click, false);
+    mnuacerca = item(QStringLiteral("&Acerca"), &VentanaPrincipal::mnuacerca_Click, false);
+    mnuSalir = item(QStringLiteral("&Salir"), &VentanaPrincipal::mnuSalir_Click, false);
 
     layout()->setSizeConstraint(QLayout::SetFixedSize);
 }
 
-void Form1::Form_Load()
+void VentanaPrincipal::Form_Load()
 {
     Nivel = 3;
     AplicaIdioma();
-    Modo = 1;
+    Modo = kContraPC;
     cmdnuevo_Click();
     // Seeded last: the first game is set up from the generator's fixed state.
     Randomize(SegundosDesdeMedianoche());
 }
 
-void Form1::Muestra()
+void VentanaPrincipal::closeEvent(QCloseEvent *e)
 {
-    CentraVentana(this);
-    show();
-}
-
-void Form1::closeEvent(QCloseEvent *e)
-{
-    if (!descargado_) {
-        descargado_ = true;
-        deleteLater();
-        TerminaPrograma();
-    }
+    Descargate();
     e->accept();
 }
 
-void Form1::cmdtir_Click(Integer Index)
+void VentanaPrincipal::Form_Unload()
+{
+    TerminaPrograma();
+}
+
+void VentanaPrincipal::cmdtir_Click(Integer Index)
 {
     JuegaCasilla(Index);
     ActualizaAccesibles();
 }
 
-void Form1::JuegaCasilla(Integer Index)
+void VentanaPrincipal::JuegaCasilla(Integer Index)
 {
-    QPushButton *boton = cmdtir[static_cast<std::size_t>(Index)];
+    QPushButton *boton = cmdtir[Index];
     if (!boton->text().isEmpty() || !Jugando)
         return;
     cmdnuevo->setEnabled(false);
-    const int c = Index % 3;
-    const int r = Index / 3;
-    if (Modo == 1 || Turno == 1) {
+    const Integer c = Index % 3;
+    const Integer r = Index / 3;
+    if (Modo == kContraPC || Turno == kTurnoJugador1) {
         boton->setText(QStringLiteral("X"));
         Tablero(c, r) = kEquis;
     } else {
@@ -150,42 +144,47 @@ void Form1::JuegaCasilla(Integer Index)
         Tablero(c, r) = kCero;
     }
 
-    if (HayGanador(Tablero))
-        FinDePartida(Modo == 1 ? strFelicidades
-                               : strGana + Trim(Nombre(Turno == 1 ? Jugador1 : Jugador2)) +
-                                     QStringLiteral("!"));
-    else if (TableroLleno(Tablero))
-        FinDePartida(strEmpate);
-
-    if (Modo == 2 && Jugando) {
-        Turno = Turno == 1 ? 2 : 1;
-        Panel->Caption(strTurnoDe + Nombre(Turno == 1 ? Jugador1 : Jugador2));
-    }
-    if (Modo == 1 && Jugando) {
-        if (!MovimientoPC(Tablero))
+    if (Modo == kContraPC) {
+        if (FinSiTermino(strFelicidades) || !MovimientoPC(Tablero))
             return;
         PintaComputadora();
-        if (HayGanador(Tablero))
-            FinDePartida(strPierdes);
-        else if (TableroLleno(Tablero))
-            FinDePartida(strEmpate);
-        else
+        if (!FinSiTermino(strPierdes))
             Panel->Caption(strTuTurno);
+    } else if (!FinSiTermino(strGana + Trim(Nombre(JugadorDelTurno())) + QStringLiteral("!"))) {
+        Turno = Turno == kTurnoJugador1 ? kTurnoJugador2 : kTurnoJugador1;
+        AnunciaTurno();
     }
 }
 
-void Form1::cmdnuevo_Click()
+bool VentanaPrincipal::FinSiTermino(const QString &mensajeLinea)
+{
+    if (HayGanador(Tablero))
+        Panel->Caption(mensajeLinea);
+    else if (TableroLleno(Tablero))
+        Panel->Caption(strEmpate);
+    else
+        return false;
+    cmdnuevo->setEnabled(true);
+    Jugando = false;
+    return true;
+}
+
+void VentanaPrincipal::AnunciaTurno()
+{
+    Panel->Caption(strTurnoDe + Nombre(JugadorDelTurno()));
+}
+
+void VentanaPrincipal::cmdnuevo_Click()
 {
     cmdnuevo->setEnabled(false);
     LimpiaTablero(Tablero);
     for (QPushButton *b : cmdtir)
         b->setText(QString());
-    if (Modo != 1) {
+    if (Modo != kContraPC) {
         Turno = static_cast<Integer>(AlAzar(2) + 1);
         Jugando = true;
-        Panel->Caption(strTurnoDe + Nombre(Turno == 1 ? Jugador1 : Jugador2));
-    }
-    if (Modo == 1) {
+        AnunciaTurno();
+    } else {
         if (AlAzar(2) == 0) {
             MovimientoPC(Tablero);
             PintaComputadora();
@@ -197,32 +196,25 @@ void Form1::cmdnuevo_Click()
 }
 
 // Shows "0" on every square the computer holds that still has no caption.
-void Form1::PintaComputadora()
+void VentanaPrincipal::PintaComputadora()
 {
     for (int k = 0; k < 9; ++k) {
-        QPushButton *b = cmdtir[static_cast<std::size_t>(k)];
+        QPushButton *b = cmdtir[k];
         if (Tablero(k % 3, k / 3) == kCero && b->text().isEmpty())
             b->setText(QStringLiteral("0"));
     }
 }
 
-void Form1::ActualizaAccesibles()
+void VentanaPrincipal::ActualizaAccesibles()
 {
     for (int k = 0; k < 9; ++k) {
-        QPushButton *b = cmdtir[static_cast<std::size_t>(k)];
+        QPushButton *b = cmdtir[k];
         b->setAccessibleName(NombreCasilla(k, b->text()));
         b->setAccessibleDescription(DescripcionCasilla());
     }
 }
 
-void Form1::FinDePartida(const QString &mensaje)
-{
-    Panel->Caption(mensaje);
-    cmdnuevo->setEnabled(true);
-    Jugando = false;
-}
-
-void Form1::mnu1vs2_Click()
+void VentanaPrincipal::mnu1vs2_Click()
 {
     if (mnu1vs2->isChecked())
         return;
@@ -231,12 +223,12 @@ void Form1::mnu1vs2_Click()
     mnu1vs2->setChecked(true);
     mnuNivel->setEnabled(false);
     mnuoponentes_Click();
-    Modo = 2;
+    Modo = kDosJugadores;
     Turno = static_cast<Integer>(AlAzar(2) + 1); // replaced by the new game; only the draw counts
     cmdnuevo_Click();
 }
 
-void Form1::mnuvspc_Click()
+void VentanaPrincipal::mnuvspc_Click()
 {
     if (mnuvspc->isChecked())
         return;
@@ -246,37 +238,37 @@ void Form1::mnuvspc_Click()
     mnuNivel->setEnabled(true);
     Nivel = 3;
     AplicaIdioma();
-    Modo = 1;
+    Modo = kContraPC;
     cmdnuevo_Click();
 }
 
-void Form1::mnuNivel_Click()
+void VentanaPrincipal::mnuNivel_Click()
 {
-    ::frmNivel().optNivel.Limpia();
-    ::frmNivel().optNivel.Selecciona(Nivel - 1);
-    ::frmNivel().MuestraModal();
+    frmNivel().optNivel.Limpia();
+    frmNivel().optNivel.Selecciona(Nivel - 1);
+    frmNivel().MuestraModal();
     AplicaIdioma();
     cmdnuevo_Click();
 }
 
-void Form1::mnuoponentes_Click()
+void VentanaPrincipal::mnuoponentes_Click()
 {
-    ::frmoponentes().MuestraModal();
+    frmoponentes().MuestraModal();
 }
 
-void Form1::mnuSeleccionIdioma_Click()
+void VentanaPrincipal::mnuSeleccionIdioma_Click()
 {
     DesdeMenu = true;
-    ::frmSeleccion().MuestraModal();
+    frmSeleccion().MuestraModal();
     AplicaIdioma();
 }
 
-void Form1::mnuacerca_Click()
+void VentanaPrincipal::mnuacerca_Click()
 {
-    ::frmAbout().MuestraModal();
+    frmAbout().MuestraModal();
 }
 
-void Form1::mnuSalir_Click()
+void VentanaPrincipal::mnuSalir_Click()
 {
     close();
 }

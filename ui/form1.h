@@ -14,12 +14,10 @@ class QPushButton;
 
 namespace ui {
 
-class Form1 : public QMainWindow, public Formulario {
+class VentanaPrincipal : public Formulario<QMainWindow> {
   public:
-    Form1();
+    VentanaPrincipal();
     void Form_Load() override;
-    // Centred on the screen, modeless.
-    void Muestra();
 
     void cmdtir_Click(Integer Index);
     void cmdnuevo_Click();
@@ -48,13 +46,16 @@ class Form1 : public QMainWindow, public Formulario {
     void ActualizaAccesibles();
 
   protected:
-    // Form_Unload: closing the main window ends the program.
     void closeEvent(QCloseEvent *e) override;
+    // Unloading the main window ends the program.
+    void Form_Unload() override;
 
   private:
     void JuegaCasilla(Integer Index);
     void PintaComputadora();
-    void FinDePartida(const QString &mensaje);
+    // A line or a full board ends the game with its message: true if it ended.
+    bool FinSiTermino(const QString &mensajeLinea);
+    void AnunciaTurno();
 };
 
 } // namespace ui

@@ -2,11 +2,11 @@
 
 #include "estado.h"
 
-Ventana<ui::Form1> Form1;
-Ventana<ui::frmNivel> frmNivel;
-Ventana<ui::frmoponentes> frmoponentes;
-Ventana<ui::frmAbout> frmAbout;
-Ventana<ui::frmSeleccion> frmSeleccion;
+Ventana<ui::VentanaPrincipal> Form1;
+Ventana<ui::DialogoNivel> frmNivel;
+Ventana<ui::DialogoOponentes> frmoponentes;
+Ventana<ui::DialogoAcerca> frmAbout;
+Ventana<ui::VentanaIdioma> frmSeleccion;
 
 void Main()
 {

@@ -8,11 +8,11 @@
 #include "frmoponentes.h"
 #include "frmseleccion.h"
 
-extern Ventana<ui::Form1> Form1;
-extern Ventana<ui::frmNivel> frmNivel;
-extern Ventana<ui::frmoponentes> frmoponentes;
-extern Ventana<ui::frmAbout> frmAbout;
-extern Ventana<ui::frmSeleccion> frmSeleccion;
+extern Ventana<ui::VentanaPrincipal> Form1;
+extern Ventana<ui::DialogoNivel> frmNivel;
+extern Ventana<ui::DialogoOponentes> frmoponentes;
+extern Ventana<ui::DialogoAcerca> frmAbout;
+extern Ventana<ui::VentanaIdioma> frmSeleccion;
 
 // The program's entry point: the defaults, then the language window, modeless.
 void Main();

@@ -6,19 +6,19 @@
 
 namespace ui {
 
-frmAbout::frmAbout() : Dialogo(QStringLiteral("About..."), 5625, 2130, Qt::WindowCloseButtonHint)
+DialogoAcerca::DialogoAcerca() : Dialogo(QStringLiteral("About..."), 5625, 2130)
 {
     setFixedSize(size());
     PintaFondo(QColor(192, 192, 192));
 
-    cmdAceptar = CreaBoton(this, QStringLiteral("&&Ok"), TwRect(2145, 1680, 1335, 375),
-                           [this] { cmdAceptar_Click(); });
+    cmdAceptar = CreaBoton(this, QStringLiteral("&&Ok"), TwRect(2145, 1680, 1335, 375));
+    connect(cmdAceptar, &QPushButton::clicked, this, &DialogoAcerca::cmdAceptar_Click);
     Panel = new Panel3D(this, TwRect(120, 90, 5355, 1515), Qt::AlignLeft | Qt::AlignTop);
     Panel->setMargin(2);
     cmdAceptar->setFocus();
 }
 
-void frmAbout::Form_Load()
+void DialogoAcerca::Form_Load()
 {
     // The text keeps its CR LF line ends; the label breaks lines at LF.
     Panel->Caption(QString(strAcercaTexto).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
@@ -26,7 +26,7 @@ void frmAbout::Form_Load()
     setWindowTitle(strAcercaTitulo);
 }
 
-void frmAbout::cmdAceptar_Click()
+void DialogoAcerca::cmdAceptar_Click()
 {
     Descarga();
 }

@@ -7,9 +7,9 @@ class QPushButton;
 
 namespace ui {
 
-class frmAbout : public Dialogo {
+class DialogoAcerca : public Dialogo {
   public:
-    frmAbout();
+    DialogoAcerca();
     void Form_Load() override;
     void cmdAceptar_Click();
 

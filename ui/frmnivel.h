@@ -7,13 +7,13 @@ class QPushButton;
 
 namespace ui {
 
-class frmNivel : public Dialogo {
+class DialogoNivel : public Dialogo {
   public:
-    frmNivel();
+    DialogoNivel();
     void optNivel_Click(Integer Index);
     void cmdok_Click();
 
-    Panel3D *SSPanel1;
+    QFrame *SSPanel1;
     GrupoOpciones optNivel;
     QPushButton *cmdok;
 };

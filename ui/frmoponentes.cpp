@@ -8,15 +8,14 @@
 
 namespace ui {
 
-frmoponentes::frmoponentes()
-    : Dialogo(QStringLiteral("Oponentes"), 3990, 2235, Qt::WindowCloseButtonHint)
+DialogoOponentes::DialogoOponentes() : Dialogo(QStringLiteral("Oponentes"), 3990, 2235)
 {
-    Command1 = CreaBoton(this, QStringLiteral("&Aceptar"), TwRect(728, 1800, 975, 375),
-                         [this] { Command1_Click(); });
-    Command2 = CreaBoton(this, QStringLiteral("&Cancelar"), TwRect(2288, 1800, 975, 375),
-                         [this] { Command2_Click(); });
+    Command1 = CreaBoton(this, QStringLiteral("&Aceptar"), TwRect(728, 1800, 975, 375));
+    connect(Command1, &QPushButton::clicked, this, &DialogoOponentes::Command1_Click);
+    Command2 = CreaBoton(this, QStringLiteral("&Cancelar"), TwRect(2288, 1800, 975, 375));
+    connect(Command2, &QPushButton::clicked, this, &DialogoOponentes::Command2_Click);
 
-    SSPanel1 = new Panel3D(this, TwRect(60, 60, 3885, 1665));
+    SSPanel1 = CreaPanel(this, TwRect(60, 60, 3885, 1665));
     label[0] = new QLabel(QStringLiteral("Nombre del primer oponente:"), SSPanel1);
     label[0]->setGeometry(TwRect(225, 240, 3015, 255));
     Text1[0] = new CajaTexto(SSPanel1, TwRect(225, 480, 3255, 285), 15);
@@ -24,12 +23,7 @@ frmoponentes::frmoponentes()
     Label1->setGeometry(TwRect(225, 870, 2775, 255));
     Text1[1] = new CajaTexto(SSPanel1, TwRect(210, 1110, 3255, 285), 15);
     for (Integer i = 0; i < 2; ++i)
-        Text1[static_cast<std::size_t>(i)]->KeyDown = [this, i](int codigo, int shift) {
-            Text1_KeyDown(i, codigo, shift);
-        };
-    for (QWidget *w : {static_cast<QWidget *>(label[0]), static_cast<QWidget *>(Label1),
-                       static_cast<QWidget *>(Text1[0]), static_cast<QWidget *>(Text1[1])})
-        w->setFont(FuentePrograma());
+        Text1[i]->KeyDown = [this, i](int codigo) { Text1_KeyDown(i, codigo); };
     label[0]->setBuddy(Text1[0]);
     Label1->setBuddy(Text1[1]);
 
@@ -40,7 +34,7 @@ frmoponentes::frmoponentes()
     Command1->setFocus();
 }
 
-void frmoponentes::Form_Load()
+void DialogoOponentes::Form_Load()
 {
     Command1->setText(strAceptar);
     Command2->setText(strCancelar);
@@ -49,7 +43,7 @@ void frmoponentes::Form_Load()
     Label1->setText(strNombreSegundo);
 }
 
-void frmoponentes::Command1_Click()
+void DialogoOponentes::Command1_Click()
 {
     const QString uno = Text1[0]->text();
     const QString dos = Text1[1]->text();
@@ -69,23 +63,23 @@ void frmoponentes::Command1_Click()
     Descarga();
 }
 
-void frmoponentes::Command2_Click()
+void DialogoOponentes::Command2_Click()
 {
     Jugador1 = strJugadorUno.toStdString();
     Jugador2 = strJugadorDos.toStdString();
     Descarga();
 }
 
-void frmoponentes::Text1_KeyDown(Integer, int KeyCode, int)
+void DialogoOponentes::Text1_KeyDown(Integer, int KeyCode)
 {
     if (KeyCode == 13)
         Command1_Click();
 }
 
 // The information box in the language of Idioma, then back to the first name.
-void frmoponentes::Informa(const QString &textoEs, const QString &textoEn)
+void DialogoOponentes::Informa(const QString &textoEs, const QString &textoEn)
 {
-    if (Idioma == 1)
+    if (Idioma == kEspanol)
         MsgBoxInformacion(this, QStringLiteral("Información"), textoEs);
     else
         MsgBoxInformacion(this, QStringLiteral("Information"), textoEn);

@@ -11,16 +11,16 @@ class QPushButton;
 
 namespace ui {
 
-class frmoponentes : public Dialogo {
+class DialogoOponentes : public Dialogo {
   public:
-    frmoponentes();
+    DialogoOponentes();
     // Every opening shows the language in force.
     void Form_Load() override;
     void Command1_Click();
     void Command2_Click();
-    void Text1_KeyDown(Integer Index, int KeyCode, int Shift);
+    void Text1_KeyDown(Integer Index, int KeyCode);
 
-    Panel3D *SSPanel1;
+    QFrame *SSPanel1;
     std::array<QLabel *, 1> label{};
     QLabel *Label1;
     std::array<CajaTexto *, 2> Text1{};

@@ -10,31 +10,22 @@
 
 namespace ui {
 
-namespace {
-constexpr int kIngles = 0;
-constexpr int kEspañol = 1;
-} // namespace
-
-frmSeleccion::frmSeleccion()
-    : Dialogo(QStringLiteral("Idiom selection"), 3090, 1860, Qt::WindowCloseButtonHint),
-      opciones(this)
+VentanaIdioma::VentanaIdioma()
+    : Dialogo(QStringLiteral("Idiom selection"), 3090, 1860), opciones(this)
 {
     setFixedSize(size());
     PintaFondo(QColor(192, 192, 192));
 
-    cmdAceptar = CreaBoton(this, QStringLiteral("&Ok"), TwRect(120, 1440, 1095, 375),
-                           [this] { cmdAceptar_Click(); });
-    cmdSalir = CreaBoton(this, QStringLiteral("&Exit"), TwRect(1920, 1440, 1095, 375),
-                         [this] { cmdSalir_Click(); });
+    cmdAceptar = CreaBoton(this, QStringLiteral("&Ok"), TwRect(120, 1440, 1095, 375));
+    connect(cmdAceptar, &QPushButton::clicked, this, &VentanaIdioma::cmdAceptar_Click);
+    cmdSalir = CreaBoton(this, QStringLiteral("&Exit"), TwRect(1920, 1440, 1095, 375));
+    connect(cmdSalir, &QPushButton::clicked, this, &VentanaIdioma::cmdSalir_Click);
 
-    Panel = new Panel3D(this, TwRect(90, 60, 2925, 1305));
+    Panel = CreaPanel(this, TwRect(90, 60, 2925, 1305));
     lblGracias = new QLabel(QStringLiteral("Thank you by playing my game"), Panel);
     lblGracias->setGeometry(TwRect(330, 240, 3615, 255));
     optIngles = opciones.Agrega(Panel, TwRect(300, 510, 1125, 255), QStringLiteral("E&nglish"));
     optEspañol = opciones.Agrega(Panel, TwRect(300, 870, 1125, 255), QStringLiteral("Es&pañol"));
-    for (QWidget *w : {static_cast<QWidget *>(lblGracias), static_cast<QWidget *>(optIngles),
-                       static_cast<QWidget *>(optEspañol)})
-        w->setFont(FuentePrograma());
     optIngles->setChecked(true); // as designed, before any handler is attached
     opciones.Click = [this](Integer i) {
         if (i == kIngles)
@@ -49,28 +40,26 @@ frmSeleccion::frmSeleccion()
     cmdAceptar->setFocus();
 }
 
-void frmSeleccion::Form_Load()
+void VentanaIdioma::Form_Load()
 {
-    if (Idioma != 0)
-        opciones.Selecciona(kEspañol);
-    else if (optIngles->isChecked())
-        optIngles_Click(); // already selected by design: load English all the same
+    if (Idioma != kIngles)
+        opciones.Selecciona(kEspanol);
     else
-        opciones.Selecciona(kIngles);
+        optIngles_Click(); // already selected by design: load English all the same
 }
 
-void frmSeleccion::optEspañol_Click()
+void VentanaIdioma::optEspañol_Click()
 {
-    EligeIdioma(QStringLiteral("&Aceptar"), QStringLiteral("&Salir"), 1);
+    EligeIdioma(QStringLiteral("&Aceptar"), QStringLiteral("&Salir"), kEspanol);
 }
 
-void frmSeleccion::optIngles_Click()
+void VentanaIdioma::optIngles_Click()
 {
-    EligeIdioma(QStringLiteral("&Ok"), QStringLiteral("&Exit"), 0);
+    EligeIdioma(QStringLiteral("&Ok"), QStringLiteral("&Exit"), kIngles);
 }
 
 // The steps both options take, with their own button captions and language.
-void frmSeleccion::EligeIdioma(const QString &aceptar, const QString &salir, Integer idioma)
+void VentanaIdioma::EligeIdioma(const QString &aceptar, const QString &salir, Integer idioma)
 {
     cmdAceptar->setText(aceptar);
     cmdSalir->setText(salir);
@@ -80,22 +69,22 @@ void frmSeleccion::EligeIdioma(const QString &aceptar, const QString &salir, Int
         AplicaIdioma();
 }
 
-void frmSeleccion::cmdAceptar_Click()
+void VentanaIdioma::cmdAceptar_Click()
 {
     CargaIdioma();
     Descarga();
     if (!DesdeMenu)
-        ::Form1().Muestra();
+        Form1().Muestra();
     else
         AplicaIdioma();
 }
 
-void frmSeleccion::cmdSalir_Click()
+void VentanaIdioma::cmdSalir_Click()
 {
     Descarga();
 }
 
-void frmSeleccion::CargaIdioma()
+void VentanaIdioma::CargaIdioma()
 {
     CargaTextos(optIngles->isChecked(), [this](const QString &gracias, const QString &titulo) {
         lblGracias->setText(gracias);

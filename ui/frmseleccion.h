@@ -9,18 +9,18 @@ class QPushButton;
 
 namespace ui {
 
-class frmSeleccion : public Dialogo {
+class VentanaIdioma : public Dialogo {
   public:
-    frmSeleccion();
+    VentanaIdioma();
     void Form_Load() override;
     void optEspañol_Click();
     void optIngles_Click();
     void cmdAceptar_Click();
     void cmdSalir_Click();
 
-    Panel3D *Panel;
+    QFrame *Panel;
     QLabel *lblGracias;
-    GrupoOpciones opciones; // 0 optIngles, 1 optEspañol
+    GrupoOpciones opciones; // indexed by Idioma: 0 optIngles, 1 optEspañol
     QRadioButton *optIngles;
     QRadioButton *optEspañol;
     QPushButton *cmdAceptar;

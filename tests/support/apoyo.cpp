@@ -1,5 +1,7 @@
 #include "apoyo.h"
 
+#include "estado.h"
+
 Board DesdeTexto(const std::string &celdas)
 {
     Board b;
@@ -46,4 +48,17 @@ float AzarGuionado::Rnd()
 void AzarGuionado::Agrega(std::vector<float> valores)
 {
     valores_.insert(valores_.end(), valores.begin(), valores.end());
+}
+
+void BorraEstado()
+{
+    LimpiaTablero(Tablero);
+    Jugando = false;
+    Nivel = 0;
+    Modo = 0;
+    Turno = 0;
+    Jugador1.clear();
+    Jugador2.clear();
+    Idioma = 0;
+    DesdeMenu = false;
 }

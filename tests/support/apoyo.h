@@ -32,6 +32,9 @@ class AzarGuionado : public FuenteAzar {
     int excedidas_ = 0;
 };
 
+// Every variable of the game state back to zero, False or empty, as before Main.
+void BorraEstado();
+
 // The largest float below 1 and below 0.5.
 constexpr float kCasiUno = 0.99999994f;
 constexpr float kCasiMedio = 0.49999997f;

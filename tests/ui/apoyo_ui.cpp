@@ -34,7 +34,7 @@ void ReiniciaPrograma()
                        &strFelicidades,   &strEmpate,        &strTurnoDe,
                        &strPierdes,       &strTuTurno,       &strNivel})
         s->clear();
-    ReiniciaAzar();
+    UsaFuenteAzar(nullptr);
 }
 
 int CorreHastaElFin(const std::function<void()> &accion)
@@ -76,7 +76,7 @@ QPointer<QObject> CuandoModal(std::function<void(QWidget *)> accion)
 void Arranca(bool ingles)
 {
     Main();
-    ui::frmSeleccion &seleccion = frmSeleccion();
+    ui::VentanaIdioma &seleccion = frmSeleccion();
     if (ingles)
         Clic(seleccion.optIngles);
     Clic(seleccion.cmdAceptar);
@@ -130,7 +130,7 @@ QString Titulo()
 void RespondeOponentes(const QString &uno, const QString &dos, bool cancela)
 {
     CuandoModal([=](QWidget *w) {
-        auto *d = dynamic_cast<ui::frmoponentes *>(w);
+        auto *d = dynamic_cast<ui::DialogoOponentes *>(w);
         ASSERT_NE(d, nullptr);
         Teclea(d->Text1[0], uno);
         Teclea(d->Text1[1], dos);

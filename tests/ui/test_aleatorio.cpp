@@ -90,7 +90,7 @@ class SesionAleatoria {
 
     void Accion()
     {
-        ui::Form1 &f = Form1();
+        ui::VentanaPrincipal &f = Form1();
         const int d = Dado(100);
         if (d < 50) {
             const int k = Dado(9);
@@ -128,7 +128,7 @@ class SesionAleatoria {
             CuandoModal([this](QWidget *w) {
                 ++dialogos_;
                 if (Dado(2))
-                    Clic(dynamic_cast<ui::frmAbout &>(*w).cmdAceptar);
+                    Clic(dynamic_cast<ui::DialogoAcerca &>(*w).cmdAceptar);
                 else
                     Cierra(w);
             });
@@ -146,7 +146,7 @@ class SesionAleatoria {
     {
         CuandoModal([this](QWidget *w) {
             ++dialogos_;
-            auto &n = dynamic_cast<ui::frmNivel &>(*w);
+            auto &n = dynamic_cast<ui::DialogoNivel &>(*w);
             for (int i = Dado(4); i > 0; --i)
                 Clic(n.optNivel.Opcion(Dado(3)));
             if (Dado(2))
@@ -160,7 +160,7 @@ class SesionAleatoria {
     {
         CuandoModal([this](QWidget *w) {
             ++dialogos_;
-            auto &s = dynamic_cast<ui::frmSeleccion &>(*w);
+            auto &s = dynamic_cast<ui::VentanaIdioma &>(*w);
             for (int i = Dado(3); i > 0; --i)
                 Clic(Dado(2) ? s.optIngles : s.optEspañol);
             const int fin = Dado(3);
@@ -178,7 +178,7 @@ class SesionAleatoria {
     {
         CuandoModal([this](QWidget *w) {
             ++dialogos_;
-            auto &o = dynamic_cast<ui::frmoponentes &>(*w);
+            auto &o = dynamic_cast<ui::DialogoOponentes &>(*w);
             for (int intento = 0; intento < 3; ++intento) {
                 o.Text1[0]->clear();
                 o.Text1[1]->clear();
@@ -226,7 +226,7 @@ class SesionAleatoria {
             if (w->isVisible() && w != &Form1())
                 ADD_FAILURE() << "left open: " << w->metaObject()->className() << " "
                               << qPrintable(w->windowTitle());
-        ui::Form1 &f = Form1();
+        ui::VentanaPrincipal &f = Form1();
         for (int k = 0; k < 9; ++k) {
             const Integer v = Tablero(k % 3, k / 3);
             const QString t = f.cmdtir[static_cast<std::size_t>(k)]->text();

@@ -40,7 +40,7 @@ TEST(Ciclo, EveryDialogAThousandTimesKeepsTheHeapFlat)
     ReiniciaPrograma();
     AzarGuionado azar;
     Arranca(false);
-    ui::Form1 &f = Form1();
+    ui::VentanaPrincipal &f = Form1();
     const auto ronda = [&f](int veces) {
         AbreYCierra(f.mnuNivel, veces);
         AbreYCierra(f.mnuacerca, veces);

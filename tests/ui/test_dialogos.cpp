@@ -18,12 +18,12 @@ class Dialogos : public ::testing::Test {
 };
 
 // Opens the opponents dialog as the menu does and runs `paso` inside it.
-void EnOponentes(const std::function<void(ui::frmoponentes &)> &paso)
+void EnOponentes(const std::function<void(ui::DialogoOponentes &)> &paso)
 {
     bool abierto = false;
     CuandoModal([&](QWidget *w) {
         abierto = true;
-        auto *d = dynamic_cast<ui::frmoponentes *>(w);
+        auto *d = dynamic_cast<ui::DialogoOponentes *>(w);
         ASSERT_NE(d, nullptr);
         paso(*d);
         if (frmoponentes.Existe())
@@ -44,7 +44,7 @@ void EsperaMensaje(const std::function<void()> &accion, const QString &titulo, c
     EXPECT_EQ(m.texto, texto);
 }
 
-void Escribe(ui::frmoponentes &d, const QString &uno, const QString &dos)
+void Escribe(ui::DialogoOponentes &d, const QString &uno, const QString &dos)
 {
     d.Text1[0]->clear();
     d.Text1[1]->clear();
@@ -61,7 +61,7 @@ TEST_F(Dialogos, OpponentsRefuseMissingAndEqualNames)
 {
     Arranca(false);
     Jugador1 = "antes";
-    EnOponentes([](ui::frmoponentes &d) {
+    EnOponentes([](ui::DialogoOponentes &d) {
         EXPECT_EQ(d.focusWidget(), d.Command1);
         const auto ok = [&d] { Clic(d.Command1); };
         const QString info = QStringLiteral("Información");
@@ -93,14 +93,14 @@ TEST_F(Dialogos, OpponentsRefuseMissingAndEqualNames)
 TEST_F(Dialogos, OpponentsCaseLimitCancelAndClose)
 {
     Arranca(false);
-    EnOponentes([](ui::frmoponentes &d) {
+    EnOponentes([](ui::DialogoOponentes &d) {
         Escribe(d, "Ana", "ana");
         QTest::keyClick(d.Text1[0], Qt::Key_Return);
     });
     EXPECT_EQ(Jugador1, "Ana");
     EXPECT_EQ(Jugador2, "ana");
 
-    EnOponentes([](ui::frmoponentes &d) {
+    EnOponentes([](ui::DialogoOponentes &d) {
         EXPECT_TRUE(d.Text1[0]->text().isEmpty()); // names in force are not shown
         Teclea(d.Text1[0], QStringLiteral("Maximiliano José Pérez"));
         EXPECT_EQ(d.Text1[0]->text(), QStringLiteral("Maximiliano Jos"));
@@ -108,7 +108,7 @@ TEST_F(Dialogos, OpponentsCaseLimitCancelAndClose)
     });
     EXPECT_EQ(Jugador1, "Ana");
 
-    EnOponentes([](ui::frmoponentes &d) {
+    EnOponentes([](ui::DialogoOponentes &d) {
         Escribe(d, "Luis", "Eva");
         Clic(d.Command2);
     });
@@ -119,7 +119,7 @@ TEST_F(Dialogos, OpponentsCaseLimitCancelAndClose)
 TEST_F(Dialogos, OpponentsEnterRightAfterOpeningAndEnglishMessages)
 {
     Arranca(true);
-    EnOponentes([](ui::frmoponentes &d) {
+    EnOponentes([](ui::DialogoOponentes &d) {
         EXPECT_EQ(d.windowTitle(), "Opponents");
         EXPECT_EQ(d.label[0]->text(), "Name to &first player:");
         EXPECT_EQ(d.label[0]->buddy(), d.Text1[0]);
@@ -142,9 +142,9 @@ TEST_F(Dialogos, LevelTakesEffectOnTheClick)
     Arranca(false);
     Juega({0});
     CuandoModal([](QWidget *w) {
-        auto *d = dynamic_cast<ui::frmNivel *>(w);
+        auto *d = dynamic_cast<ui::DialogoNivel *>(w);
         ASSERT_NE(d, nullptr);
-        EXPECT_TRUE(d->optNivel.Valor(2));
+        EXPECT_TRUE(d->optNivel.Opcion(2)->isChecked());
         EXPECT_EQ(d->optNivel.Opcion(1)->text(), "Medio");
         Clic(d->optNivel.Opcion(1));
         EXPECT_EQ(Nivel, 2);
@@ -158,11 +158,11 @@ TEST_F(Dialogos, LevelTakesEffectOnTheClick)
 
     // Opened again at level 2; changed to 1 with the keyboard, then OK.
     CuandoModal([](QWidget *w) {
-        auto *d = dynamic_cast<ui::frmNivel *>(w);
+        auto *d = dynamic_cast<ui::DialogoNivel *>(w);
         ASSERT_NE(d, nullptr);
-        EXPECT_FALSE(d->optNivel.Valor(0));
-        EXPECT_TRUE(d->optNivel.Valor(1));
-        EXPECT_FALSE(d->optNivel.Valor(2));
+        EXPECT_FALSE(d->optNivel.Opcion(0)->isChecked());
+        EXPECT_TRUE(d->optNivel.Opcion(1)->isChecked());
+        EXPECT_FALSE(d->optNivel.Opcion(2)->isChecked());
         ASSERT_TRUE(QTest::qWaitForWindowActive(d));
         d->optNivel.Opcion(1)->setFocus();
         QTest::keyClick(d->optNivel.Opcion(1), Qt::Key_Up);
@@ -180,7 +180,7 @@ TEST_F(Dialogos, AboutInTheLanguageLoaded)
     Arranca(false);
     const auto abre = [](const QString &titulo, const QString &boton) {
         CuandoModal([=](QWidget *w) {
-            auto *d = dynamic_cast<ui::frmAbout *>(w);
+            auto *d = dynamic_cast<ui::DialogoAcerca *>(w);
             ASSERT_NE(d, nullptr);
             EXPECT_EQ(d->windowTitle(), titulo);
             EXPECT_EQ(d->cmdAceptar->text(), boton);
@@ -199,7 +199,7 @@ TEST_F(Dialogos, AboutInTheLanguageLoaded)
     EXPECT_EQ(Estado(), "Tu turno");
 
     CuandoModal([](QWidget *w) {
-        Clic(dynamic_cast<ui::frmSeleccion *>(w)->optIngles);
+        Clic(dynamic_cast<ui::VentanaIdioma *>(w)->optIngles);
         w->close();
     });
     Form1().mnuSeleccionIdioma->trigger();

@@ -21,7 +21,7 @@ TEST_F(Diseno, GeometryInPixelsAtFifteenTwipsEach)
 {
     AzarGuionado azar({kPersonaAbre});
     Arranca(false);
-    ui::Form1 &f = Form1();
+    ui::VentanaPrincipal &f = Form1();
     EXPECT_EQ(f.centralWidget()->size(), QSize(319, 325));
     EXPECT_EQ(f.Panel->geometry(), QRect(38, 6, 239, 39));
     EXPECT_EQ(f.cmdnuevo->geometry(), QRect(113, 292, 81, 27));
@@ -48,7 +48,7 @@ TEST_F(Diseno, TabOrderStartsOnTheBottomRightSquare)
 {
     AzarGuionado azar({kPersonaAbre});
     Arranca(false);
-    ui::Form1 &f = Form1();
+    ui::VentanaPrincipal &f = Form1();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&f));
     EXPECT_EQ(QApplication::focusWidget(), f.cmdtir[8]);
     const auto recorre = [&f](int pasos) {
@@ -75,7 +75,7 @@ TEST_F(Diseno, TabOrderStartsOnTheBottomRightSquare)
 TEST_F(Diseno, MenuMirrorsTheMode)
 {
     Arranca(false);
-    ui::Form1 &f = Form1();
+    ui::VentanaPrincipal &f = Form1();
     const auto estados = [&f] {
         return std::vector<bool>{f.mnuvspc->isChecked(), f.mnu1vs2->isChecked(),
                                  f.mnuNivel->isEnabled(), f.mnuoponentes->isEnabled()};

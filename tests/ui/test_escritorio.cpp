@@ -75,7 +75,7 @@ TEST_F(Escritorio, SquaresAreNamedInTheCurrentLanguage)
 {
     AzarGuionado azar({kPersonaAbre});
     Arranca(false);
-    ui::Form1 &f = Form1();
+    ui::VentanaPrincipal &f = Form1();
     EXPECT_EQ(Accesible(f.cmdtir[0]), QStringLiteral("Casilla 1, fila 1, columna 1: vacía"));
     EXPECT_EQ(Accesible(f.cmdtir[5]), QStringLiteral("Casilla 6, fila 2, columna 3: vacía"));
     EXPECT_EQ(Accesible(f.cmdtir[0], QAccessible::Description), "Pulse para jugar en esta casilla");
@@ -84,7 +84,7 @@ TEST_F(Escritorio, SquaresAreNamedInTheCurrentLanguage)
     EXPECT_EQ(Accesible(f.cmdtir[4]), "Casilla 5, fila 2, columna 2: 0");
 
     CuandoModal([](QWidget *w) {
-        Clic(dynamic_cast<ui::frmSeleccion *>(w)->optIngles);
+        Clic(dynamic_cast<ui::VentanaIdioma *>(w)->optIngles);
         w->close();
     });
     f.mnuSeleccionIdioma->trigger();
@@ -136,7 +136,7 @@ TEST_F(Escritorio, TheGridStaysBetweenTheSquaresAtAnyScale)
 {
     AzarGuionado azar({kPersonaAbre}); // the person opens: the squares stay empty
     Arranca(false);
-    ui::Form1 &f = Form1();
+    ui::VentanaPrincipal &f = Form1();
     const QImage imagen = f.centralWidget()->grab().toImage();
     const qreal escala = imagen.devicePixelRatio();
     const QColor linea = f.palette().color(QPalette::WindowText);
@@ -155,7 +155,7 @@ TEST_F(Escritorio, TheGridStaysBetweenTheSquaresAtAnyScale)
 TEST_F(Escritorio, AltOOpensTheMenu)
 {
     Arranca(false);
-    ui::Form1 &f = Form1();
+    ui::VentanaPrincipal &f = Form1();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&f));
     QTest::keyClick(&f, Qt::Key_O, Qt::AltModifier);
     QTRY_VERIFY_WITH_TIMEOUT(f.mnuOpciones->isVisible(), 2000);

@@ -25,9 +25,9 @@ void Carga(bool ingles)
 // Every caption the caption application sets, plus the two it leaves alone.
 QStringList Rotulos()
 {
-    ui::Form1 &f = Form1();
-    ui::frmNivel &n = frmNivel();
-    ui::frmoponentes &o = frmoponentes();
+    ui::VentanaPrincipal &f = Form1();
+    ui::DialogoNivel &n = frmNivel();
+    ui::DialogoOponentes &o = frmoponentes();
     return {f.windowTitle(),
             f.mnuOpciones->title(),
             n.optNivel.Opcion(0)->text(),
@@ -144,12 +144,13 @@ TEST_F(Idiomas, TitleFollowsIdiomaForTheLevelWord)
 TEST_F(Idiomas, UnloadedDialogsComeBackFromTheirDesign)
 {
     Arranca(false);
-    frmNivel().close();
-    frmoponentes().close();
+    frmNivel().Descarga();
+    frmoponentes().Descarga();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_FALSE(frmNivel.Existe());
     EXPECT_EQ(frmNivel().windowTitle(), "Nivel de juego");
     EXPECT_EQ(frmNivel().optNivel.Opcion(1)->text(), "2._ Regular.");
-    EXPECT_TRUE(frmNivel().optNivel.Valor(2));
+    EXPECT_TRUE(frmNivel().optNivel.Opcion(2)->isChecked());
     // The opponents dialog takes the loaded texts whenever it is created.
     EXPECT_EQ(frmoponentes().windowTitle(), "Oponentes");
     EXPECT_EQ(frmoponentes().Label1->text(), "Nombre del &segundo jugador:");

@@ -32,10 +32,10 @@ void SinDialogo(const std::function<void()> &accion)
 }
 
 // Inside the language window opened from the menu: `paso`, then Exit.
-void EnIdioma(const std::function<void(ui::frmSeleccion &)> &paso)
+void EnIdioma(const std::function<void(ui::VentanaIdioma &)> &paso)
 {
     CuandoModal([paso](QWidget *w) {
-        auto *s = dynamic_cast<ui::frmSeleccion *>(w);
+        auto *s = dynamic_cast<ui::VentanaIdioma *>(w);
         ASSERT_NE(s, nullptr);
         paso(*s);
         if (frmSeleccion.Existe())
@@ -62,7 +62,7 @@ TEST_F(Programa, StartUpOpensTheLanguageWindowInSpanish)
     EXPECT_EQ(Modo, 0);
     EXPECT_FALSE(Jugando);
     EXPECT_FALSE(Form1.Existe());
-    ui::frmSeleccion &s = frmSeleccion();
+    ui::VentanaIdioma &s = frmSeleccion();
     EXPECT_TRUE(s.isVisible());
     EXPECT_TRUE(s.optEspañol->isChecked());
     EXPECT_EQ(s.windowTitle(), QStringLiteral("Selección de idioma"));
@@ -84,7 +84,7 @@ TEST_F(Programa, StartUpOpensTheLanguageWindowInSpanish)
 TEST_F(Programa, EnglishChosenFirstGivesEnglishEverywhere)
 {
     Main();
-    ui::frmSeleccion &s = frmSeleccion();
+    ui::VentanaIdioma &s = frmSeleccion();
     Clic(s.optIngles);
     EXPECT_EQ(s.windowTitle(), "Idiom selection");
     EXPECT_EQ(s.lblGracias->text(), "Thank you for to play my game");
@@ -111,7 +111,7 @@ TEST_F(Programa, ExitAtStartUpEndsWithoutTheMainWindow)
 TEST_F(Programa, LanguageFromTheMenuSwitchesEveryWindowAtOnce)
 {
     Arranca(false);
-    EnIdioma([](ui::frmSeleccion &s) {
+    EnIdioma([](ui::VentanaIdioma &s) {
         EXPECT_TRUE(DesdeMenu);
         EXPECT_TRUE(s.optEspañol->isChecked());
         Clic(s.optIngles);
@@ -126,7 +126,7 @@ TEST_F(Programa, LanguageFromTheMenuSwitchesEveryWindowAtOnce)
     EXPECT_EQ(Estado(), "Tu turno");
 
     // English in force: the window opens on English with its loaded texts.
-    EnIdioma([](ui::frmSeleccion &s) {
+    EnIdioma([](ui::VentanaIdioma &s) {
         EXPECT_TRUE(s.optIngles->isChecked());
         EXPECT_EQ(s.lblGracias->text(), "Thank you for to play my game");
         Clic(s.optEspañol);
@@ -150,7 +150,7 @@ TEST_F(Programa, ModeSwitchesAndTheSameModeDoesNothing)
 
     // Level 1, then two players cancelled: the default names.
     CuandoModal([](QWidget *w) {
-        Clic(dynamic_cast<ui::frmNivel *>(w)->optNivel.Opcion(0));
+        Clic(dynamic_cast<ui::DialogoNivel *>(w)->optNivel.Opcion(0));
         w->close();
     });
     azar.Agrega({kPersonaAbre});
@@ -201,7 +201,7 @@ TEST_F(Programa, LevelDialogClosedUnchangedStillStartsANewGame)
     AzarGuionado azar({kPersonaAbre, kPersonaAbre});
     Arranca(false);
     Juega({0});
-    CuandoModal([](QWidget *w) { Clic(dynamic_cast<ui::frmNivel *>(w)->cmdok); });
+    CuandoModal([](QWidget *w) { Clic(dynamic_cast<ui::DialogoNivel *>(w)->cmdok); });
     Form1().mnuNivel->trigger();
     EXPECT_EQ(Nivel, 3);
     EXPECT_EQ(Casillas(), ".........");
