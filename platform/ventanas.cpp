@@ -8,11 +8,13 @@
 #include <QFontDatabase>
 #include <QKeyEvent>
 #include <QLayout>
+#include <QLibraryInfo>
 #include <QMainWindow>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
+#include <QTranslator>
 
 QFont FuentePrograma(double puntos, bool negrita)
 {
@@ -37,6 +39,7 @@ QPushButton *CreaBoton(QWidget *padre, const QString &texto, const QRect &geomet
 {
     auto *b = new QPushButton(texto, padre);
     b->setGeometry(geometria);
+    b->setAutoDefault(true); // Return and Enter press it while it has the focus
     return b;
 }
 
@@ -121,6 +124,9 @@ void Panel3D::Caption(const QString &texto)
 GrupoOpciones::GrupoOpciones(QObject *dueno) : grupo_(new QButtonGroup(dueno))
 {
     QObject::connect(grupo_, &QButtonGroup::idToggled, grupo_, [this](int id, bool marcado) {
+        // Tab reaches the group on its selected option; the arrow keys
+        // move among all of them.
+        Opcion(id)->setFocusPolicy(marcado ? Qt::StrongFocus : Qt::ClickFocus);
         if (marcado && Click)
             Click(static_cast<Integer>(id));
     });
@@ -130,6 +136,7 @@ QRadioButton *GrupoOpciones::Agrega(QWidget *padre, const QRect &geometria, cons
 {
     auto *opcion = new QRadioButton(texto, padre);
     opcion->setGeometry(geometria);
+    opcion->setFocusPolicy(Qt::ClickFocus);
     grupo_->addButton(opcion, static_cast<int>(grupo_->buttons().size()));
     return opcion;
 }
@@ -175,6 +182,20 @@ void MsgBoxInformacion(QWidget *padre, const QString &titulo, const QString &tex
     QMessageBox caja(QMessageBox::Information, titulo, texto, QMessageBox::Ok, padre);
     caja.setWindowIcon(IconoPrograma());
     caja.exec();
+}
+
+void TextosQtEnEspanol(bool espanol)
+{
+    static QTranslator *catalogo = [] {
+        auto *t = new QTranslator(qApp);
+        if (!t->load(QLocale(QLocale::Spanish), QStringLiteral("qtbase"), QStringLiteral("_"),
+                     QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+            qWarning("Qt's Spanish catalogue (qtbase_es.qm) is not installed");
+        return t;
+    }();
+    QCoreApplication::removeTranslator(catalogo);
+    if (espanol)
+        QCoreApplication::installTranslator(catalogo);
 }
 
 void TerminaPrograma()

@@ -31,7 +31,8 @@ inline QRect TwRect(int left, int top, int width, int height)
 // "MS Sans Serif" where it exists, otherwise a face with its widths.
 QFont FuentePrograma(double puntos = 8.25, bool negrita = false);
 
-// A push button at its place in its container.
+// A push button at its place in its container; Return and Enter press it
+// while it has the focus.
 QPushButton *CreaBoton(QWidget *padre, const QString &texto, const QRect &geometria);
 
 // Centres a top-level window on the main window, or on its screen when the
@@ -142,6 +143,10 @@ class CajaTexto : public QLineEdit {
 
 // A modal information box with one OK button; returns once it is closed.
 void MsgBoxInformacion(QWidget *padre, const QString &titulo, const QString &texto);
+
+// Qt's own texts (message-box buttons, the text boxes' context menu) in
+// Spanish, or back in English.
+void TextosQtEnEspanol(bool espanol);
 
 // Closes every window and leaves the event loop: the end of the program.
 void TerminaPrograma();

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # The installed tree and the Debian package: the desktop entry and the
-# AppStream file validate, every icon is there, and the packaged binary
-# starts and ends by itself once its window is closed.
+# AppStream file validate, every icon is there, Debian's package checker
+# finds no error or warning, and the packaged binary starts and ends by
+# itself once its window is closed.
 #   instalacion.sh BUILD-DIR
 set -euo pipefail
 build=$(cd "$1" && pwd)
@@ -11,7 +12,8 @@ id=org.supertirlo.SuperTirlo
 
 cmake --install "$build" --prefix "$scratch/prefix" > /dev/null
 share=$scratch/prefix/share
-test -x "$scratch/prefix/bin/supertirlo"
+test -x "$scratch/prefix/games/supertirlo"
+test -s "$share/man/man6/supertirlo.6.gz"
 desktop-file-validate "$share/applications/$id.desktop"
 appstreamcli validate --no-net "$share/metainfo/$id.metainfo.xml"
 test -s "$share/icons/hicolor/scalable/apps/supertirlo.svg"
@@ -21,9 +23,11 @@ done
 
 cpack --config "$build/CPackConfig.cmake" -B "$scratch/pkg" > /dev/null
 deb=$(ls "$scratch"/pkg/*.deb)
-dpkg-deb -f "$deb" Depends | grep 'libqt6widgets6' | grep -q 'fonts-liberation2'
+dpkg-deb -f "$deb" Depends | grep 'libqt6widgets6' | grep 'qt6-translations-l10n' | grep -q 'fonts-liberation2'
+lintian --fail-on error,warning "$deb" 2>&1 | grep -v 'running with root privileges' || true
+lintian --fail-on error,warning "$deb" > /dev/null 2>&1
 dpkg-deb -x "$deb" "$scratch/root"
-binary=$scratch/root/usr/bin/supertirlo
+binary=$scratch/root/usr/games/supertirlo
 test -x "$binary"
 
 # Started on its own display: the language window comes up; Escape closes

@@ -57,8 +57,8 @@ VentanaPrincipal::VentanaPrincipal()
 
     const QFont marcas = FuentePrograma(24);
     for (Integer k = 0; k < 9; ++k) {
-        auto *b = new QPushButton(superficie);
-        b->setGeometry(TwRect(615 + 1200 * (k % 3), 870 + 1080 * (k / 3), 945, 825));
+        auto *b = CreaBoton(superficie, QString(),
+                            TwRect(615 + 1200 * (k % 3), 870 + 1080 * (k / 3), 945, 825));
         b->setFont(marcas);
         connect(b, &QPushButton::clicked, this, [this, k] { cmdtir_Click(k); });
         cmdtir[k] = b;

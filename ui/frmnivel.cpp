@@ -22,6 +22,9 @@ DialogoNivel::DialogoNivel() : Dialogo(QStringLiteral("Nivel de juego"), 2895, 1
     optNivel.Click = [this](Integer i) { optNivel_Click(i); };
 
     setTabOrder(cmdok, optNivel.Opcion(2));
+    setTabOrder(optNivel.Opcion(2), optNivel.Opcion(1));
+    setTabOrder(optNivel.Opcion(1), optNivel.Opcion(0));
+    cmdok->setDefault(true);
     cmdok->setFocus();
 }
 

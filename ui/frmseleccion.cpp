@@ -37,6 +37,7 @@ VentanaIdioma::VentanaIdioma()
     setTabOrder(cmdAceptar, cmdSalir);
     setTabOrder(cmdSalir, optEspañol);
     setTabOrder(optEspañol, optIngles);
+    cmdAceptar->setDefault(true); // Enter on an option accepts it
     cmdAceptar->setFocus();
 }
 
@@ -64,6 +65,7 @@ void VentanaIdioma::EligeIdioma(const QString &aceptar, const QString &salir, In
     cmdAceptar->setText(aceptar);
     cmdSalir->setText(salir);
     Idioma = idioma;
+    TextosQtEnEspanol(idioma == kEspanol);
     CargaIdioma();
     if (DesdeMenu)
         AplicaIdioma();

@@ -1,19 +1,21 @@
-// What makes it a well-behaved desktop program: accessible names, captions
-// that fit at any scale, the keyboard, the icon.
+// What makes it a well-behaved desktop program: texts readable under any
+// theme, captions that fit at any scale, the keyboard, the icon.
 #include "apoyo_ui.h"
 #include "estado.h"
 #include "icono.h"
 #include "idioma.h"
 
-#include <QAccessible>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QStyle>
 #include <QTest>
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <set>
 
 namespace {
@@ -23,12 +25,6 @@ class Escritorio : public ::testing::Test {
     void SetUp() override { ReiniciaPrograma(); }
     void TearDown() override { ReiniciaPrograma(); }
 };
-
-QString Accesible(QObject *o, QAccessible::Text t = QAccessible::Name)
-{
-    QAccessibleInterface *i = QAccessible::queryAccessibleInterface(o);
-    return i ? i->text(t) : QStringLiteral("<none>");
-}
 
 // The caption as shown: "&" marks the access key, "&&" shows one "&".
 QString Visible(QString s)
@@ -69,46 +65,72 @@ void CabenLosRotulos(QWidget *ventana)
     }
 }
 
-} // namespace
-
-TEST_F(Escritorio, SquaresAreNamedInTheCurrentLanguage)
+// WCAG's contrast ratio of two colours, 1 to 21.
+double Contraste(const QColor &a, const QColor &b)
 {
-    AzarGuionado azar({kPersonaAbre});
-    Arranca(false);
-    ui::VentanaPrincipal &f = Form1();
-    EXPECT_EQ(Accesible(f.cmdtir[0]), QStringLiteral("Casilla 1, fila 1, columna 1: vacía"));
-    EXPECT_EQ(Accesible(f.cmdtir[5]), QStringLiteral("Casilla 6, fila 2, columna 3: vacía"));
-    EXPECT_EQ(Accesible(f.cmdtir[0], QAccessible::Description), "Pulse para jugar en esta casilla");
-    Juega({0}); // the computer answers in the centre
-    EXPECT_EQ(Accesible(f.cmdtir[0]), "Casilla 1, fila 1, columna 1: X");
-    EXPECT_EQ(Accesible(f.cmdtir[4]), "Casilla 5, fila 2, columna 2: 0");
-
-    CuandoModal([](QWidget *w) {
-        Clic(dynamic_cast<ui::VentanaIdioma *>(w)->optIngles);
-        w->close();
-    });
-    f.mnuSeleccionIdioma->trigger();
-    EXPECT_EQ(Accesible(f.cmdtir[4]), "Square 5, row 2, column 2: 0");
-    EXPECT_EQ(Accesible(f.cmdtir[8]), "Square 9, row 3, column 3: empty");
-    EXPECT_EQ(Accesible(f.cmdtir[8], QAccessible::Description), "Press to play on this square");
-
-    azar.Agrega({kPersonaAbre});
-    Clic(f.cmdnuevo); // disabled during a game: nothing happens
-    EXPECT_EQ(Accesible(f.cmdtir[0]), "Square 1, row 1, column 1: X");
-    f.cmdnuevo_Click();
-    EXPECT_EQ(Accesible(f.cmdtir[0]), "Square 1, row 1, column 1: empty");
+    const auto luz = [](const QColor &c) {
+        const auto canal = [](double v) {
+            return v <= 0.03928 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * canal(c.redF()) + 0.7152 * canal(c.greenF()) + 0.0722 * canal(c.blueF());
+    };
+    const double l1 = luz(a), l2 = luz(b);
+    return (std::max(l1, l2) + 0.05) / (std::min(l1, l2) + 0.05);
 }
 
-TEST_F(Escritorio, StatusPanelSpeaksItsMessageAndBoxesAreLabelled)
+// Every text of the window against the background it is drawn on.
+void TextosLegibles(QWidget *ventana)
 {
-    AzarGuionado azar({kPersonaAbre});
-    Arranca(true);
-    EXPECT_EQ(Accesible(Form1().Panel), "Your turn");
-    Juega({0, 1, 3});
-    EXPECT_EQ(Accesible(Form1().Panel), "You lose");
+    for (QWidget *w : ventana->findChildren<QWidget *>()) {
+        if (!w->isEnabled()) // greyed out by design
+            continue;
+        const QPalette &p = w->palette();
+        QColor texto, fondo;
+        if (qobject_cast<QLineEdit *>(w)) {
+            texto = p.color(QPalette::Text);
+            fondo = p.color(QPalette::Base);
+        } else if (qobject_cast<QPushButton *>(w)) {
+            texto = p.color(QPalette::ButtonText);
+            fondo = p.color(QPalette::Button);
+        } else if (qobject_cast<QLabel *>(w) || qobject_cast<QRadioButton *>(w)) {
+            texto = p.color(QPalette::WindowText);
+            QWidget *pinta = w; // the nearest widget that paints its own background
+            while (!pinta->autoFillBackground() && !pinta->isWindow())
+                pinta = pinta->parentWidget();
+            fondo = pinta->palette().color(QPalette::Window);
+        } else {
+            continue;
+        }
+        EXPECT_GE(Contraste(texto, fondo), 4.5)
+            << qPrintable(ventana->windowTitle()) << ": " << w->metaObject()->className() << " "
+            << qPrintable(texto.name()) << " on " << qPrintable(fondo.name());
+    }
+}
 
-    EXPECT_EQ(Accesible(frmoponentes().Text1[0]), "Name to first player:");
-    EXPECT_EQ(Accesible(frmoponentes().Text1[1]), "Name to second player:");
+} // namespace
+
+TEST_F(Escritorio, EveryTextIsReadableUnderLightAndDarkThemes)
+{
+    const QPalette claro = QApplication::palette();
+    QPalette oscuro = claro;
+    for (auto [rol, color] : {std::pair{QPalette::Window, QColor(40, 40, 40)},
+                              {QPalette::Base, QColor(25, 25, 25)},
+                              {QPalette::Button, QColor(55, 55, 55)},
+                              {QPalette::WindowText, QColor(230, 230, 230)},
+                              {QPalette::Text, QColor(235, 235, 235)},
+                              {QPalette::ButtonText, QColor(230, 230, 230)}})
+        oscuro.setColor(rol, color);
+    for (const QPalette &tema : {claro, oscuro}) {
+        ReiniciaPrograma();
+        QApplication::setPalette(tema);
+        Arranca(false);
+        for (QWidget *v :
+             std::initializer_list<QWidget *>{&Form1(), &frmNivel(), &frmoponentes(), &frmAbout()})
+            TextosLegibles(v);
+        Main();
+        TextosLegibles(&frmSeleccion());
+    }
+    QApplication::setPalette(claro);
 }
 
 TEST_F(Escritorio, EveryCaptionFitsItsControlInBothLanguages)

@@ -1,0 +1,25 @@
+#!/usr/bin/env bash
+# Runs teclado.py on a private X display with a window manager, inside its
+# own D-Bus session with the accessibility bus up, as a desktop would.
+#   teclado.sh PROGRAM
+set -euo pipefail
+here=$(cd "$(dirname "$0")" && pwd)
+sesion=$(mktemp)
+trap 'rm -f "$sesion"' EXIT
+cat > "$sesion" <<SESION
+set -eu
+openbox > /dev/null 2>&1 &
+# The window manager up, so new windows get the focus, and the accessibility
+# bus started (asking for its address does), before the game starts.
+for _ in \$(seq 100); do
+    xprop -root _NET_SUPPORTING_WM_CHECK 2> /dev/null | grep -q window &&
+        dbus-send --session --print-reply --dest=org.a11y.Bus /org/a11y/bus \
+            org.a11y.Bus.GetAddress > /dev/null 2>&1 && break
+    sleep 0.1
+done
+status=0
+/usr/bin/python3 "$here/teclado.py" "$(realpath "$1")" || status=\$?
+kill %1 2> /dev/null || true
+exit \$status
+SESION
+xvfb-run -a -s '-screen 0 1024x768x24 -nolisten tcp' dbus-run-session -- bash "$sesion"
