@@ -70,8 +70,8 @@ def marcado(n):
 
 
 def teclas(*nombres):
-    subprocess.run(["xdotool", "key", "--delay", "120"] + list(nombres), check=True)
-    time.sleep(0.4)
+    subprocess.run(["xdotool", "key", "--delay", "60"] + list(nombres), check=True)
+    time.sleep(0.15)
 
 
 def foco_es(v, rol, nombre, checked=None):
