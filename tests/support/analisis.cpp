@@ -1,6 +1,5 @@
 #include "analisis.h"
 
-#include "apoyo.h"
 #include "azar.h"
 #include "estado.h"
 #include "movimiento.h"
@@ -17,9 +16,8 @@ class AzarRamas final : public FuenteAzar {
     float Rnd() override { return 0.0f; }
     Integer Elige(Integer n) override
     {
-        const std::size_t i = tamanos.size();
         tamanos.push_back(n);
-        return i < guion.size() ? guion[i] : 0;
+        return tamanos.size() <= guion.size() ? guion[tamanos.size() - 1] : 0;
     }
 };
 
@@ -27,7 +25,7 @@ void Ramifica(const Board &inicio, AzarRamas &azar, double prob, std::vector<Res
 {
     azar.tamanos.clear();
     Board b = inicio;
-    const bool movio = MovimientoPC(b);
+    MovimientoPC(b);
     const std::size_t hechas = azar.guion.size();
     if (azar.tamanos.size() <= hechas) {
         for (Respuesta &r : salida)
@@ -35,7 +33,7 @@ void Ramifica(const Board &inicio, AzarRamas &azar, double prob, std::vector<Res
                 r.probabilidad += prob;
                 return;
             }
-        salida.push_back({b, prob, static_cast<int>(hechas), movio});
+        salida.push_back({b, prob});
         return;
     }
     const Integer n = azar.tamanos[hechas];
@@ -44,6 +42,14 @@ void Ramifica(const Board &inicio, AzarRamas &azar, double prob, std::vector<Res
         Ramifica(inicio, azar, prob / n, salida);
         azar.guion.pop_back();
     }
+}
+
+int Clave(const Board &b)
+{
+    int clave = 0;
+    for (Integer v : b.celda)
+        clave = clave * 3 + v;
+    return clave;
 }
 
 } // namespace
@@ -58,55 +64,19 @@ std::vector<Respuesta> RespuestasPC(const Board &tablero)
     return salida;
 }
 
-std::vector<Board> PosicionesPC(Integer nivel, Abre quien)
-{
-    std::vector<Board> pendientes;
-    if (quien != Abre::Persona)
-        pendientes.push_back(Board{});
-    if (quien != Abre::Computadora)
-        for (std::size_t k = 0; k < 9; ++k) {
-            Board b;
-            b.celda[k] = kEquis;
-            pendientes.push_back(b);
-        }
-    std::vector<Board> salida;
-    std::vector<bool> vista(19683, false);
-    Nivel = nivel;
-    while (!pendientes.empty()) {
-        const Board b = pendientes.back();
-        pendientes.pop_back();
-        const auto clave = static_cast<std::size_t>(Clave(b));
-        if (HayGanador(b) || TableroLleno(b) || vista[clave])
-            continue;
-        vista[clave] = true;
-        salida.push_back(b);
-        for (const Respuesta &r : RespuestasPC(b))
-            if (!HayGanador(r.tablero) && !TableroLleno(r.tablero))
-                for (std::size_t k = 0; k < 9; ++k)
-                    if (r.tablero.celda[k] == kVacia) {
-                        Board siguiente = r.tablero;
-                        siguiente.celda[k] = kEquis;
-                        pendientes.push_back(siguiente);
-                    }
-    }
-    return salida;
-}
-
-Analisis::Analisis(Integer nivel) : nivel_(nivel), memo_(19683, -1.0) {}
-
 double Analisis::AlMover(const Board &tablero)
 {
-    double &memo = memo_[static_cast<std::size_t>(Clave(tablero))];
-    if (memo >= 0.0)
-        return memo;
-    double mejor = 0.0;
-    for (std::size_t k = 0; k < 9; ++k)
-        if (tablero.celda[k] == kVacia) {
-            Board b = tablero;
-            b.celda[k] = kEquis;
-            mejor = std::max(mejor, TrasJugada(b));
-        }
-    return memo = mejor;
+    double &memo = memo_[Clave(tablero)];
+    if (memo < 0.0) {
+        memo = 0.0;
+        for (std::size_t k = 0; k < 9; ++k)
+            if (tablero.celda[k] == kVacia) {
+                Board b = tablero;
+                b.celda[k] = kEquis;
+                memo = std::max(memo, TrasJugada(b));
+            }
+    }
+    return memo;
 }
 
 double Analisis::TrasJugada(const Board &tablero)
@@ -120,14 +90,5 @@ double Analisis::TrasJugada(const Board &tablero)
     for (const Respuesta &r : RespuestasPC(tablero))
         if (!HayGanador(r.tablero) && !TableroLleno(r.tablero))
             valor += r.probabilidad * AlMover(r.tablero);
-    return valor;
-}
-
-double Analisis::PCPrimero()
-{
-    Nivel = nivel_;
-    double valor = 0.0;
-    for (const Respuesta &r : RespuestasPC(Board{}))
-        valor += r.probabilidad * AlMover(r.tablero);
     return valor;
 }

@@ -9,30 +9,19 @@
 struct Respuesta {
     Board tablero; // the board after the computer's move
     double probabilidad;
-    int sacadas; // random choices made on the way
-    bool movio;  // what MovimientoPC returned
 };
 
 // Every distinct board MovimientoPC can leave, at the current Nivel.
 std::vector<Respuesta> RespuestasPC(const Board &tablero);
 
-// Who opened the games whose positions are wanted.
-enum class Abre { Persona, Computadora, Cualquiera };
-
-// Every distinct position with the computer to move that play against the
-// level `nivel` reaches, whatever the person plays and the computer draws.
-std::vector<Board> PosicionesPC(Integer nivel, Abre quien);
-
 // The person's best chance to win against one level, playing "X".
 class Analisis {
   public:
-    explicit Analisis(Integer nivel);
+    explicit Analisis(Integer nivel) : nivel_(nivel), memo_(19683, -1.0) {}
     // The person is to move on `tablero`.
     double AlMover(const Board &tablero);
-    // The person has just moved to give `tablero`; the computer answers next.
+    // The computer answers next on `tablero` (on the empty board: it opens).
     double TrasJugada(const Board &tablero);
-    double HumanoPrimero() { return AlMover(Board{}); }
-    double PCPrimero();
 
   private:
     Integer nivel_;

@@ -2,6 +2,8 @@
 
 #include "estado.h"
 
+#include <fstream>
+
 Board DesdeTexto(const std::string &celdas)
 {
     Board b;
@@ -18,14 +20,6 @@ std::string ComoTexto(const Board &b)
     return s;
 }
 
-int Clave(const Board &b)
-{
-    int clave = 0;
-    for (Integer v : b.celda)
-        clave = clave * 3 + v;
-    return clave;
-}
-
 AzarGuionado::AzarGuionado(std::vector<float> valores) : valores_(std::move(valores))
 {
     UsaFuenteAzar(this);
@@ -38,27 +32,34 @@ AzarGuionado::~AzarGuionado()
 
 float AzarGuionado::Rnd()
 {
-    ++sacadas_;
+    ++sacadas;
     if (siguiente_ < valores_.size())
         return valores_[siguiente_++];
-    ++excedidas_;
+    ++excedidas;
     return 0.0f;
 }
 
-void AzarGuionado::Agrega(std::vector<float> valores)
+void AzarGuionado::Agrega(const std::vector<float> &valores)
 {
     valores_.insert(valores_.end(), valores.begin(), valores.end());
+}
+
+std::vector<std::string> Filas(const std::string &archivo)
+{
+    std::ifstream entrada(TIRLO_DATOS "/" + archivo);
+    std::vector<std::string> filas;
+    for (std::string linea; std::getline(entrada, linea);)
+        if (!linea.empty() && linea[0] != '#')
+            filas.push_back(linea);
+    return filas;
 }
 
 void BorraEstado()
 {
     LimpiaTablero(Tablero);
     Jugando = false;
-    Nivel = 0;
-    Modo = 0;
-    Turno = 0;
+    Nivel = Modo = Turno = Idioma = 0;
     Jugador1.clear();
     Jugador2.clear();
-    Idioma = 0;
     DesdeMenu = false;
 }

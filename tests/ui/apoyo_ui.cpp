@@ -1,16 +1,47 @@
 #include "apoyo_ui.h"
 
 #include "estado.h"
-#include "idioma.h"
 
-#include <QApplication>
+#include <QDeadlineTimer>
 #include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
 #include <QTimer>
 
-#include <gtest/gtest.h>
+#include <map>
+
+int CorreHastaElFin(const std::function<void()> &accion)
+{
+    QTimer::singleShot(0, accion);
+    QTimer limite;
+    limite.setSingleShot(true);
+    QObject::connect(&limite, &QTimer::timeout, [] { QCoreApplication::exit(99); });
+    limite.start(3000);
+    return QCoreApplication::exec();
+}
+
+QTimer *CuandoModal(std::function<void(QWidget *)> accion)
+{
+    auto *reloj = new QTimer;
+    QPointer<QWidget> antes = QApplication::activeModalWidget();
+    QObject::connect(reloj, &QTimer::timeout, [reloj, accion, antes, plazo = QDeadlineTimer(2000)] {
+        QWidget *m = QApplication::activeModalWidget();
+        const bool abierta = m && m != antes && m->isVisible();
+        if (abierta || plazo.hasExpired()) {
+            reloj->stop();
+            reloj->deleteLater();
+        }
+        if (abierta)
+            accion(m);
+    });
+    reloj->start(0);
+    return reloj;
+}
 
 void ReiniciaPrograma()
 {
@@ -20,135 +51,90 @@ void ReiniciaPrograma()
         ventanas.append(w);
     for (const QPointer<QWidget> &w : ventanas)
         delete w.data();
-    // A full turn of the application's loop: pending deletions and quit
-    // requests are consumed, and an earlier end of the program is forgotten.
+    // A turn of the loop consumes pending deletions and quit requests.
     CorreHastaElFin([] { QCoreApplication::exit(0); });
     BorraEstado();
-    for (QString *s : {&strAcerca,        &strSalir,         &strSeleccionIdioma,
-                       &strTitulo,        &strOpciones,      &strAcercaTexto,
-                       &strAceptar,       &strCancelar,      &strAcercaTitulo,
-                       &strJugadorUno,    &strJugadorDos,    &strFacil,
-                       &strMedio,         &strNoGanas,       &strNivelMenu,
-                       &strNuevoJuego,    &strOponentesMenu, &strOponentes,
-                       &strNombrePrimero, &strNombreSegundo, &strGana,
-                       &strFelicidades,   &strEmpate,        &strTurnoDe,
-                       &strPierdes,       &strTuTurno,       &strNivel})
-        s->clear();
     UsaFuenteAzar(nullptr);
 }
 
-int CorreHastaElFin(const std::function<void()> &accion)
+QStringList Datos(const std::string &clave, const std::string &modo)
 {
-    QTimer inicio;
-    inicio.setSingleShot(true);
-    QObject::connect(&inicio, &QTimer::timeout, accion);
-    QTimer limite;
-    limite.setSingleShot(true);
-    QObject::connect(&limite, &QTimer::timeout, [] { QCoreApplication::exit(99); });
-    inicio.start(0);
-    limite.start(3000);
-    return QCoreApplication::exec();
-}
-
-QPointer<QObject> CuandoModal(std::function<void(QWidget *)> accion)
-{
-    auto *reloj = new QTimer;
-    QPointer<QWidget> antes = QApplication::activeModalWidget();
-    auto intentos = std::make_shared<int>(0);
-    QObject::connect(reloj, &QTimer::timeout, [reloj, accion, antes, intentos] {
-        QWidget *m = QApplication::activeModalWidget();
-        if (m && m != antes && m->isVisible()) {
-            reloj->stop();
-            reloj->deleteLater();
-            accion(m);
-        } else if (++*intentos > 100000) {
-            reloj->stop();
-            reloj->deleteLater();
-            ADD_FAILURE() << "no modal window opened";
-            if (m)
-                m->close();
+    static const auto tabla = [] {
+        std::multimap<std::string, QString> t;
+        for (const std::string &linea : Filas("textos.txt")) {
+            const auto b = linea.find(' ', linea.find(' ') + 1);
+            t.emplace(linea.substr(0, b), QString::fromStdString(linea.substr(b + 1)));
         }
-    });
-    reloj->start(0);
-    return reloj;
+        return t;
+    }();
+    QStringList valores;
+    const auto [desde, hasta] = tabla.equal_range(clave + ' ' + modo);
+    for (auto i = desde; i != hasta; ++i)
+        valores << i->second;
+    return valores;
 }
 
 void Arranca(bool ingles)
 {
     Main();
-    ui::VentanaIdioma &seleccion = frmSeleccion();
     if (ingles)
-        Clic(seleccion.optIngles);
-    Clic(seleccion.cmdAceptar);
-    ASSERT_TRUE(Form1.Existe());
-    // Let the closed language window settle, as the running program would.
-    QCoreApplication::sendPostedEvents();
-}
-
-void Teclea(QWidget *w, const QString &texto)
-{
-    for (QChar c : texto) {
-        QKeyEvent pulsa(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QString(c));
-        QKeyEvent suelta(QEvent::KeyRelease, Qt::Key_unknown, Qt::NoModifier, QString(c));
-        QApplication::sendEvent(w, &pulsa);
-        QApplication::sendEvent(w, &suelta);
-    }
+        Clic(frmSeleccion().optIngles);
+    Clic(frmSeleccion().cmdAceptar);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 void Clic(QAbstractButton *b)
 {
-    // An option button takes clicks on its circle and caption only, not on
-    // the empty rest of its rectangle.
+    // An option button takes clicks on its circle and caption only.
     const bool opcion = qobject_cast<QRadioButton *>(b) != nullptr;
     QTest::mouseClick(b, Qt::LeftButton, {}, opcion ? QPoint(6, b->height() / 2) : QPoint());
 }
 
-void Juega(std::initializer_list<int> botones)
+// What the player sees of one control: its text, the selected option marked
+// "(*)", a text box's limit, a menu with its items ("[x]" checked, "[-]"
+// disabled); "_" for nothing. Empty when it is no control of those kinds.
+QString Describe(QWidget *w)
 {
-    for (int k : botones)
-        Clic(Form1().cmdtir[static_cast<std::size_t>(k)]);
-}
-
-std::string Casillas()
-{
-    std::string s;
-    for (QPushButton *b : Form1().cmdtir)
-        s += b->text().isEmpty() ? std::string(".") : b->text().toStdString();
-    return s;
-}
-
-QString Estado()
-{
-    return Form1().Panel->text();
-}
-
-QString Titulo()
-{
-    return Form1().windowTitle();
-}
-
-void RespondeOponentes(const QString &uno, const QString &dos, bool cancela)
-{
-    CuandoModal([=](QWidget *w) {
-        auto *d = dynamic_cast<ui::DialogoOponentes *>(w);
-        ASSERT_NE(d, nullptr);
-        Teclea(d->Text1[0], uno);
-        Teclea(d->Text1[1], dos);
-        Clic(cancela ? d->Command2 : d->Command1);
-    });
-}
-
-Mensaje CierraMensaje(QWidget *caja)
-{
-    auto *m = qobject_cast<QMessageBox *>(caja);
-    if (!m) {
-        ADD_FAILURE() << "not a message box";
-        caja->close();
-        return {};
+    QString s;
+    if (auto *m = qobject_cast<QMenu *>(w)) {
+        s = m->title();
+        for (QAction *a : m->actions())
+            s += " | " + (a->isSeparator() ? "-" : a->text()) + (a->isChecked() ? " [x]" : "") +
+                 (a->isEnabled() ? "" : " [-]");
+        return s;
     }
-    EXPECT_EQ(m->icon(), QMessageBox::Information);
-    EXPECT_EQ(m->buttons().size(), 1);
-    Mensaje r{m->windowTitle(), m->text()};
-    m->accept();
-    return r;
+    if (auto *r = qobject_cast<QRadioButton *>(w))
+        s = r->text() + (r->isChecked() ? " (*)" : "");
+    else if (auto *b = qobject_cast<QPushButton *>(w))
+        s = b->text() + (b->isEnabled() ? "" : " [-]");
+    else if (auto *l = qobject_cast<QLabel *>(w))
+        s = QString(l->text()).replace("\n", "\\n");
+    else if (auto *e = qobject_cast<QLineEdit *>(w))
+        s = QStringLiteral("[%1]").arg(e->maxLength()) + e->text();
+    else if (qobject_cast<QFrame *>(w))
+        s = QStringLiteral("[panel]");
+    else
+        return {};
+    return s.isEmpty() ? QStringLiteral("_") : s;
+}
+
+// The title, then every control in the order it was built, with its place
+// in pixels when `lugar`.
+QStringList Textos(QWidget *v, bool lugar)
+{
+    QStringList t{v->windowTitle()};
+    for (QWidget *w : v->findChildren<QWidget *>()) {
+        QString s = Describe(w);
+        if (lugar && !s.isEmpty() && !qobject_cast<QMenu *>(w)) {
+            const QRect g = w->geometry();
+            s += QStringLiteral(" @%1,%2,%3,%4")
+                     .arg(g.x())
+                     .arg(g.y())
+                     .arg(g.width())
+                     .arg(g.height());
+        }
+        if (!s.isEmpty())
+            t << s;
+    }
+    return t;
 }

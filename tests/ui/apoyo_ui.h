@@ -1,73 +1,59 @@
 #pragma once
-// Driving the real windows headless: a fresh program per test, modal windows
-// answered from the event loop, and short ways to the controls.
+// Driving the real windows headless: a fresh program per test, the expected
+// texts of both languages (tests/datos/textos.txt), and scripts of what a
+// player does and sees (tests/datos/guiones.txt).
 
 #include "apoyo.h"
 #include "formularios.h"
 
 #include <QApplication>
 #include <QPushButton>
-#include <QString>
+#include <QRadioButton>
+#include <QTimer>
+
+#include <gtest/gtest.h>
 
 #include <functional>
 #include <ostream>
 
-// Readable failures.
 inline void PrintTo(const QString &s, std::ostream *os)
 {
     *os << '"' << s.toStdString() << '"';
 }
 
-// The draw that decides who opens a game against the computer: from 0.5 up
-// the person does, below it the computer.
+// The draw from 0.5 up lets the person open a game against the computer.
 constexpr float kPersonaAbre = 0.75f;
-constexpr float kPCAbre = 0.25f;
 
-// Every window destroyed, the state as before Main, the texts empty, the
-// generator back to its initial state.
+// Every window destroyed, the state as before Main, the default source back.
 void ReiniciaPrograma();
 
-// Runs the application's event loop with `accion` as its first event and
-// returns the loop's exit code once the program ends by itself (99 if it has
-// not ended within three seconds).
+class Programa : public ::testing::Test {
+  protected:
+    void SetUp() override { ReiniciaPrograma(); }
+    void TearDown() override { ReiniciaPrograma(); }
+};
+
+// The values under `clave` and `modo` (es, en, design, tab) in textos.txt.
+QStringList Datos(const std::string &clave, const std::string &modo);
+
+// What the player sees of a control, and of a whole window (title first,
+// then the controls in the order built, with their place in pixels when
+// `lugar`), written as textos.txt writes them.
+QString Describe(QWidget *w);
+QStringList Textos(QWidget *v, bool lugar);
+
+// Runs the event loop with `accion` as its first event and returns its exit
+// code once the program ends by itself (99 if it has not within 3 seconds).
 int CorreHastaElFin(const std::function<void()> &accion);
 
-// Runs `accion` on the next modal window to open (one that is not the
-// active modal window right now), as soon as it is up. The watcher is gone
-// once it has acted.
-QPointer<QObject> CuandoModal(std::function<void(QWidget *)> accion);
+// Runs `accion` on the next modal window to open, if one opens within 2 s;
+// the watch ends with it, or when its timer is deleted.
+QTimer *CuandoModal(std::function<void(QWidget *)> accion);
 
 // Main, then the language window's choice and Accept: the main window is up.
 void Arranca(bool ingles);
-
-// Types the text key by key, any Unicode letter included.
-void Teclea(QWidget *w, const QString &texto);
-
-// Clicks the buttons, in order.
 void Clic(QAbstractButton *b);
-void Juega(std::initializer_list<int> botones);
 
-// The nine captions in button order, "." for an empty one.
-std::string Casillas();
-QString Estado();
-QString Titulo();
-
-// Answers the opponents dialog that opens next: types the two names and
-// presses OK (or Cancel when `cancela`).
-void RespondeOponentes(const QString &uno, const QString &dos, bool cancela = false);
-
-// The information box that is up: its title and text, then OK.
-struct Mensaje {
-    QString titulo;
-    QString texto;
-};
-Mensaje CierraMensaje(QWidget *caja);
-
-// Whether some top-level window of this type is visible.
-template <class T> bool Visible()
-{
-    for (QWidget *w : QApplication::topLevelWidgets())
-        if (qobject_cast<T *>(w) && w->isVisible())
-            return true;
-    return false;
-}
+// Runs a script of actions and checks, as guiones.txt explains them; `start`
+// chooses English when `ingles`.
+void Ejecuta(const QStringList &lineas, bool ingles);

@@ -1,0 +1,141 @@
+// The game engine: worked boards for every strategy (tests/datos/jugadas.txt),
+// every board at every level, and the exact odds of beating each level.
+#include "analisis.h"
+#include "apoyo.h"
+#include "estado.h"
+#include "estrategias.h"
+#include "movimiento.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <fstream>
+#include <map>
+#include <set>
+#include <sstream>
+
+namespace {
+
+using Estrategia = bool (*)(Integer &, Integer &, const Board &);
+const std::map<std::string, Estrategia> kEstrategias = {
+    {"JugadaGanadora", JugadaGanadora}, {"JugadaBloqueo", JugadaBloqueo},
+    {"JugadaDoble", JugadaDoble},       {"BloqueaDoble", BloqueaDoble},
+    {"JugadaAmenaza", JugadaAmenaza},   {"EsquinaAlAzar", EsquinaAlAzar},
+    {"LadoAlAzar", LadoAlAzar},         {"CasillaAlAzar", CasillaAlAzar}};
+
+// What one row of jugadas.txt asks for: a button, -1 for a decline (which
+// must leave the column and row as they came), 1 or 0 for the board tests.
+int Responde(const std::string &prueba, const Board &b)
+{
+    if (prueba == "HayGanador" || prueba == "TableroLleno")
+        return prueba == "HayGanador" ? HayGanador(b) : TableroLleno(b);
+    if (prueba.rfind("MovimientoPC@", 0) == 0) {
+        Nivel = static_cast<Integer>(prueba[13] - '0');
+        Board despues = b;
+        MovimientoPC(despues);
+        const auto k = std::mismatch(b.celda.begin(), b.celda.end(), despues.celda.begin()).first;
+        return k == b.celda.end() ? -1 : int(k - b.celda.begin());
+    }
+    const bool busca = prueba.rfind("BuscaDoble@", 0) == 0;
+    Integer c = busca ? Integer(prueba[11] - '0') : 7, r = busca ? Integer(prueba[13] - '0') : 5;
+    const Integer c0 = c, r0 = r;
+    if (busca ? BuscaDoble(c, r, b, Integer(prueba[15] - '0')) : kEstrategias.at(prueba)(c, r, b))
+        return 3 * r + c;
+    return c == c0 && r == r0 ? -1 : -3;
+}
+
+} // namespace
+
+TEST(Jugadas, EveryWorkedBoard)
+{
+    const auto filas = Filas("jugadas.txt");
+    for (const std::string &linea : filas) {
+        std::istringstream campos(linea);
+        std::string prueba, celdas, guion;
+        int esperado = 0, sacadas = 0;
+        campos >> prueba >> celdas >> guion >> esperado >> sacadas;
+        std::vector<float> valores;
+        std::istringstream lista(guion == "-" ? "" : guion);
+        for (std::string v; std::getline(lista, v, ',');)
+            valores.push_back(std::stof(v));
+        AzarGuionado azar(valores);
+        EXPECT_EQ(Responde(prueba, DesdeTexto(celdas)), esperado) << linea;
+        EXPECT_EQ(azar.sacadas, sacadas) << linea;
+    }
+    EXPECT_GT(filas.size(), 60u);
+}
+
+// Every one of the 3^9 boards, reachable or not, at levels -1 to 5 with draws
+// at the edges of [0, 1): the strategies never touch the board and answer
+// empty cells; MovimientoPC writes exactly one "0" unless the board is full.
+TEST(Jugadas, EveryBoardAtEveryLevel)
+{
+    for (float x : {0.0f, kCasiMedio, kCasiUno}) {
+        AzarGuionado azar(std::vector<float>(1000000, x));
+        for (int n = 0; n < 19683; ++n) {
+            Board b;
+            for (int k = 0, resto = n; k < 9; ++k, resto /= 3)
+                b.celda[k] = static_cast<Integer>(resto % 3);
+            for (const auto &[nombre, e] : kEstrategias) {
+                Integer c = -7, r = -7;
+                if (e(c, r, b))
+                    ASSERT_TRUE(c >= 0 && c <= 2 && r >= 0 && r <= 2 && b(c, r) == kVacia)
+                        << ComoTexto(b);
+                else
+                    ASSERT_TRUE(c == -7 && r == -7) << ComoTexto(b);
+            }
+            for (Nivel = -1; Nivel <= 5; ++Nivel) {
+                Board despues = b;
+                const bool movio = MovimientoPC(despues);
+                ASSERT_EQ(movio, !TableroLleno(b)) << ComoTexto(b);
+                int cambios = 0;
+                for (std::size_t k = 0; k < 9; ++k)
+                    if (despues.celda[k] != b.celda[k]) {
+                        ++cambios;
+                        ASSERT_TRUE(b.celda[k] == kVacia && despues.celda[k] == kCero);
+                    }
+                ASSERT_EQ(cambios, movio ? 1 : 0) << ComoTexto(b) << " level " << Nivel;
+            }
+        }
+        EXPECT_EQ(azar.excedidas, 0);
+    }
+}
+
+TEST(Analisis, ExactOddsOfBeatingEachLevel)
+{
+    std::map<int, Analisis> niveles;
+    const auto filas = Filas("analisis.txt");
+    for (const std::string &linea : filas) {
+        std::istringstream campos(linea);
+        int nivel = 0;
+        std::string quien, celdas;
+        double esperado = 0;
+        campos >> nivel >> quien >> celdas >> esperado;
+        Analisis &a = niveles.try_emplace(nivel, Integer(nivel)).first->second;
+        const Board b = DesdeTexto(celdas);
+        EXPECT_DOUBLE_EQ(quien == "pc" ? a.TrasJugada(b) : a.AlMover(b), esperado) << linea;
+    }
+    EXPECT_GT(filas.size(), 20u);
+    // Level 1 is beatable, but not always, and less so when it opens.
+    Analisis uno(1);
+    const double humano = uno.AlMover(Board{});
+    EXPECT_TRUE(humano > 0.5 && humano < 1.0) << humano;
+    EXPECT_TRUE(uno.TrasJugada(Board{}) > 0.0 && uno.TrasJugada(Board{}) < humano);
+}
+
+TEST(Azar, SeededDrawsRepeatDifferAndStayInTheUnitInterval)
+{
+    const auto serie = [](float semilla) {
+        Randomize(semilla);
+        std::set<float> s;
+        for (int i = 0; i < 200; ++i)
+            s.insert(Azar().Rnd());
+        EXPECT_TRUE(*s.begin() >= 0.0f && *s.rbegin() < 1.0f);
+        return s;
+    };
+    EXPECT_EQ(serie(43200.0f), serie(43200.0f));
+    EXPECT_NE(serie(43201.0f), serie(43200.0f));
+    EXPECT_GT(serie(1.0f).size(), 190u);
+    const float ahora = SegundosDesdeMedianoche();
+    EXPECT_TRUE(ahora >= 0.0f && ahora < 86400.0f);
+}

@@ -1,0 +1,215 @@
+// The interpreter of the scripts in tests/datos/guiones.txt: each line is an
+// action on the window in front or a check of what it shows.
+#include "apoyo_ui.h"
+
+#include "estado.h"
+
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+
+#include <QTimer>
+
+#include <map>
+#include <memory>
+
+namespace {
+
+class Guion {
+  public:
+    explicit Guion(bool ingles) : ingles_(ingles) {}
+
+    void Corre(QStringList lineas)
+    {
+        while (!lineas.isEmpty() && !::testing::Test::HasFatalFailure()) {
+            const QString linea = lineas.takeFirst();
+            QStringList p = linea.split(' ', Qt::SkipEmptyParts);
+            if (p.isEmpty() || p[0].startsWith('#'))
+                continue;
+            if (p[0].startsWith('@') && p.takeFirst() != (Idioma == kIngles ? "@en" : "@es"))
+                continue;
+            SCOPED_TRACE(linea.toStdString());
+            const QString orden = p.takeFirst();
+            const QPointer<QTimer> armado = mensaje_;
+            if (orden == "menu") { // the indented lines after it run in the dialog it opens
+                QStringList dentro;
+                while (!lineas.isEmpty() && lineas.first().startsWith(' '))
+                    dentro << lineas.takeFirst();
+                Menu(p.value(0), dentro);
+            } else {
+                Paso(orden, p, linea.section('|', 1, 1));
+            }
+            if (armado && armado == mensaje_) { // the step after "message" showed none
+                delete armado;
+                ADD_FAILURE() << "no message box";
+            }
+        }
+    }
+
+  private:
+    // A text of textos.txt in the language in force ("_" is empty), followed
+    // by what comes after a "+"; a word that is no key stands for itself.
+    QString Texto(const QString &clave) const
+    {
+        const QString k = clave.section('+', 0, 0), resto = clave.section('+', 1);
+        const QStringList d = Datos(k.toStdString(), Idioma == kIngles ? "en" : "es");
+        return (d.isEmpty() ? k : d[0] == "_" ? QString() : d[0]) + resto;
+    }
+
+    // The modal window in front, else the language window at start-up, else the main window.
+    QWidget *Delante() const
+    {
+        if (QWidget *m = QApplication::activeModalWidget())
+            return m;
+        return frmSeleccion.Existe() ? static_cast<QWidget *>(&frmSeleccion()) : &Form1();
+    }
+    QAbstractButton *Boton(int i) const { return Delante()->findChildren<QPushButton *>().at(i); }
+    QRadioButton *Opcion(int i) const { return Delante()->findChildren<QRadioButton *>().at(i); }
+    QLineEdit *Caja(int i) const { return Delante()->findChildren<QLineEdit *>().at(i); }
+
+    // Triggers a menu command; a dialog opens exactly when lines are given
+    // for it, and it is closed afterwards if they left it open.
+    void Menu(const QString &item, const QStringList &dentro)
+    {
+        using V = ui::VentanaPrincipal;
+        static const std::map<QString, QAction *V::*> items = {
+            {"1vs2", &V::mnu1vs2},
+            {"vspc", &V::mnuvspc},
+            {"level", &V::mnuNivel},
+            {"names", &V::mnuoponentes},
+            {"about", &V::mnuacerca},
+            {"exit", &V::mnuSalir},
+            {"language", &V::mnuSeleccionIdioma}};
+        bool abierto = false;
+        const QPointer<QTimer> vigia = CuandoModal([&](QWidget *w) {
+            abierto = true;
+            const QPointer<QWidget> vivo = w;
+            Corre(dentro);
+            if (vivo && vivo->isVisible())
+                vivo->close();
+        });
+        (Form1().*items.at(item))->trigger();
+        delete vigia;
+        EXPECT_EQ(abierto, !dentro.isEmpty()) << "a dialog opened, or did not";
+    }
+
+    // `texto` is what stands between the bars of the line, spaces and all.
+    void Paso(const QString &orden, const QStringList &p, const QString &texto)
+    {
+        const QString resto = p.join(' ');
+        const int n = p.value(0).toInt();
+        if (orden == "draws") {
+            std::vector<float> v;
+            for (const QString &x : p)
+                v.push_back(x == "1-" ? kCasiUno : x.toFloat());
+            if (!azar_)
+                azar_ = std::make_unique<AzarGuionado>();
+            azar_->Agrega(v);
+        } else if (orden == "start" || orden == "main") {
+            Main();
+            if (ingles_)
+                Clic(frmSeleccion().optIngles);
+            if (orden == "start")
+                Clic(frmSeleccion().cmdAceptar);
+        } else if (orden == "sq") {
+            for (const QString &k : p)
+                Clic(Form1().cmdtir[k.toInt()]);
+        } else if (orden == "new") {
+            Clic(Form1().cmdnuevo);
+        } else if (orden == "ok" || orden == "cancel") {
+            Clic(Boton(orden == "ok" ? 0 : 1));
+        } else if (orden == "opt") {
+            Clic(Opcion(n));
+        } else if (orden == "toggle") { // the option not selected
+            for (QRadioButton *o : Delante()->findChildren<QRadioButton *>())
+                if (!o->isChecked())
+                    return Clic(o);
+        } else if (orden == "close") {
+            Delante()->close();
+        } else if (orden == "type") {
+            for (QChar c : texto) {
+                QKeyEvent tecla(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QString(c));
+                QApplication::sendEvent(Caja(n), &tecla);
+            }
+        } else if (orden == "clear") {
+            Caja(n)->clear();
+        } else if (orden == "key") { // key NAME [box N | opt N]
+            QWidget *w = p.value(1) == "box"   ? Caja(p.value(2).toInt())
+                         : p.value(1) == "opt" ? Opcion(p.value(2).toInt())
+                                               : Delante();
+            if (p.value(1) == "opt") { // arrows move from the focus widget of the active window
+                Delante()->activateWindow();
+                ASSERT_TRUE(QTest::qWaitForWindowActive(Delante()));
+            }
+            w->setFocus();
+            QTest::keyClick(w, QKeySequence::fromString(p.value(0))[0].key());
+        } else if (orden == "message") { // armed for the action on the next line
+            mensaje_ = CuandoModal([this, clave = p.value(0)](QWidget *w) {
+                mensaje_ = nullptr;
+                auto *m = qobject_cast<QMessageBox *>(w);
+                ASSERT_NE(m, nullptr);
+                EXPECT_EQ(m->icon(), QMessageBox::Information);
+                EXPECT_EQ(m->buttons().size(), 1);
+                EXPECT_EQ(m->windowTitle(), Texto("msgTitulo"));
+                EXPECT_EQ(m->text(), Texto(clave));
+                m->accept();
+            });
+        } else if (orden == "quit") { // the program ends by itself
+            EXPECT_EQ(CorreHastaElFin([&] { Corre({resto}); }), 0);
+            EXPECT_FALSE(Form1.Existe());
+        } else {
+            Mira(orden, p, resto, texto);
+        }
+    }
+
+    void Mira(const QString &orden, const QStringList &p, const QString &resto,
+              const QString &texto)
+    {
+        if (orden == "board") {
+            QString s;
+            for (QPushButton *b : Form1().cmdtir)
+                s += b->text().isEmpty() ? QStringLiteral(".") : b->text();
+            EXPECT_EQ(s, resto);
+        } else if (orden == "status") {
+            EXPECT_EQ(Form1().Panel->text(), Texto(resto));
+        } else if (orden == "title") {
+            EXPECT_EQ(Form1().windowTitle(), resto);
+        } else if (orden == "options") {
+            EXPECT_EQ(Describe(Form1().mnuOpciones), resto);
+        } else if (orden == "names") {
+            EXPECT_EQ(QString::fromStdString(Jugador1 + '|' + Jugador2),
+                      Texto(resto.section('|', 0, 0)) + '|' + Texto(resto.section('|', 1)));
+        } else if (orden == "state") { // state Nivel Modo Turno DesdeMenu
+            EXPECT_EQ(QStringLiteral("%1 %2 %3 %4").arg(Nivel).arg(Modo).arg(Turno).arg(DesdeMenu),
+                      resto);
+        } else if (orden == "draws-made") {
+            EXPECT_EQ(azar_ ? azar_->sacadas : 0, p.value(0).toInt());
+            EXPECT_EQ(azar_ ? azar_->excedidas : 0, 0);
+        } else if (orden == "shows") { // the window in front, as textos.txt has it
+            EXPECT_EQ(Textos(Delante(), false),
+                      Datos(resto.toStdString(), Idioma == kIngles ? "en" : "es"));
+        } else if (orden == "focus") {
+            EXPECT_EQ(Delante()->focusWidget(), Caja(p.value(0).toInt()));
+        } else if (orden == "text") {
+            EXPECT_EQ(Caja(p.value(0).toInt())->text(), texto);
+        } else if (orden == "selected") {
+            EXPECT_TRUE(Opcion(p.value(0).toInt())->isChecked());
+        } else {
+            ADD_FAILURE() << "unknown step";
+        }
+    }
+
+    bool ingles_;
+    std::unique_ptr<AzarGuionado> azar_;
+    QPointer<QTimer> mensaje_;
+};
+
+} // namespace
+
+void Ejecuta(const QStringList &lineas, bool ingles)
+{
+    Guion(ingles).Corre(lineas);
+}

@@ -1,0 +1,70 @@
+// Every window's texts, designed geometry, menu states and tab order, as
+// tests/datos/textos.txt lists them: as designed, in Spanish and in English.
+#include "apoyo_ui.h"
+
+#include <QAccessible>
+#include <QRadioButton>
+#include <QTest>
+
+namespace {
+
+// What a screen reader says of the control with the focus, then of each one
+// Tab reaches, once round.
+QStringList Tabulador(QWidget *v, int pasos)
+{
+    v->show();
+    v->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(v));
+    QStringList t;
+    for (int i = 0; i <= pasos; ++i) {
+        QWidget *f = QApplication::focusWidget();
+        t << QAccessible::queryAccessibleInterface(f)->text(QAccessible::Name);
+        QTest::keyClick(f, Qt::Key_Tab);
+    }
+    return t;
+}
+
+void Compara(const char *clave, const char *modo, const QStringList &visto)
+{
+    EXPECT_EQ(visto, Datos(clave, modo)) << clave << ' ' << modo;
+}
+
+} // namespace
+
+TEST_F(Programa, EveryWindowAsDesigned)
+{
+    Compara("Form1", "design", Textos(new ui::VentanaPrincipal, true));
+    Compara("frmNivel", "design", Textos(new ui::DialogoNivel, true));
+    Compara("frmoponentes", "design", Textos(new ui::DialogoOponentes, true));
+    Compara("frmAbout", "design", Textos(new ui::DialogoAcerca, true));
+    Compara("frmSeleccion", "design", Textos(new ui::VentanaIdioma, true));
+}
+
+TEST_F(Programa, TabOrders)
+{
+    AzarGuionado azar({kPersonaAbre});
+    Arranca(false);
+    Compara("Form1", "tab", Tabulador(&Form1(), 9));
+    Compara("frmNivel", "tab", Tabulador(&frmNivel(), 2));
+    Compara("frmoponentes", "tab", Tabulador(&frmoponentes(), 4));
+    Compara("frmAbout", "tab", Tabulador(&frmAbout(), 1));
+    Main();
+    Compara("frmSeleccion", "tab", Tabulador(&frmSeleccion(), 3));
+}
+
+TEST_F(Programa, EveryWindowInTheLanguageChosen)
+{
+    for (const char *idioma : {"es", "en"}) {
+        ReiniciaPrograma();
+        AzarGuionado azar({kPersonaAbre});
+        Main();
+        if (idioma == std::string("en"))
+            Clic(frmSeleccion().optIngles);
+        Compara("frmSeleccion", idioma, Textos(&frmSeleccion(), false));
+        Clic(frmSeleccion().cmdAceptar);
+        Compara("Form1", idioma, Textos(&Form1(), false));
+        Compara("frmNivel", idioma, Textos(&frmNivel(), false));
+        Compara("frmoponentes", idioma, Textos(&frmoponentes(), false));
+        Compara("frmAbout", idioma, Textos(&frmAbout(), false));
+    }
+}
