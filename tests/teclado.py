@@ -97,7 +97,7 @@ def mensaje(titulo, texto, boton):
     cerrada(titulo)
 
 
-def nivel_por_teclado(principal, titulo_menu, tecla, actual, flechas, nuevo):
+def nivel_por_teclado(titulo_menu, tecla, actual, flechas, nuevo):
     """The level dialog from the menu: Tab lands on the level in force, the
     arrows select, Enter is OK, and the title shows the new level."""
     teclas("alt+o", tecla)
@@ -111,19 +111,26 @@ def nivel_por_teclado(principal, titulo_menu, tecla, actual, flechas, nuevo):
     cerrada(titulo_menu)
 
 
+def idioma_por_teclado(titulo, aceptar, actual, flecha, nueva):
+    """The language window: Tab, Tab lands on the language in force; the
+    arrow selects the other one at once."""
+    s = ventana(titulo)
+    foco_es(s, "push button", aceptar)
+    teclas("Tab", "Tab")
+    foco_es(s, "radio button", actual, checked=True)
+    teclas(flecha)
+    foco_es(s, "radio button", nueva, checked=True)
+
+
 def main():
     env = dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", QT_QPA_PLATFORM="xcb")
     juego = subprocess.Popen([sys.argv[1]], env=env)
     try:
         # Start-up: Tab, Tab reaches the selected option; Up selects English
         # at once; Enter on the option accepts it.
-        s = ventana("Selección de idioma")
+        ventana("Selección de idioma")
         time.sleep(1)
-        foco_es(s, "push button", "Aceptar")
-        teclas("Tab", "Tab")
-        foco_es(s, "radio button", "Español", checked=True)
-        teclas("Up")
-        foco_es(s, "radio button", "English", checked=True)
+        idioma_por_teclado("Selección de idioma", "Aceptar", "Español", "Up", "English")
         ventana("Idiom selection")
         teclas("Return")
         p = ventana("The tic tac toe (Level 3)")
@@ -151,11 +158,11 @@ def main():
         assert ceros >= 1, [c.name for c in casillas()]
 
         # The level dialog at each level.
-        nivel_por_teclado(p, "Level", "l", "You can not win", ["Up"], "Medium")
+        nivel_por_teclado("Level", "l", "You can not win", ["Up"], "Medium")
         ventana("The tic tac toe (Level 2)")
-        nivel_por_teclado(p, "Level", "l", "Medium", ["Up"], "Easy")
+        nivel_por_teclado("Level", "l", "Medium", ["Up"], "Easy")
         ventana("The tic tac toe (Level 1)")
-        nivel_por_teclado(p, "Level", "l", "Easy", ["Down", "Down"], "You can not win")
+        nivel_por_teclado("Level", "l", "Easy", ["Down", "Down"], "You can not win")
         ventana("The tic tac toe (Level 3)")
 
         # Two players: Enter with empty names is refused, in English.
@@ -171,12 +178,7 @@ def main():
         # The language from the menu: Tab lands on English, the selected one;
         # Down switches to Spanish at once; Enter accepts.
         teclas("alt+o", "i")
-        s = ventana("Idiom selection")
-        foco_es(s, "push button", "Ok")
-        teclas("Tab", "Tab")
-        foco_es(s, "radio button", "English", checked=True)
-        teclas("Down")
-        foco_es(s, "radio button", "Español", checked=True)
+        idioma_por_teclado("Idiom selection", "Ok", "English", "Down", "Español")
         ventana("El famoso juego del tirlo (Nivel 3)")
         teclas("Return")
         cerrada("Selección de idioma")
