@@ -119,8 +119,8 @@ TEST_F(Escritorio, TheGridStaysBetweenTheSquaresAtAnyScale)
     const auto en = [&](int x, int y) {
         return imagen.pixelColor(qRound(x * escala), qRound(y * escala));
     };
-    for (QPoint p : {QPoint(113, 100), QPoint(113, 280), QPoint(193, 150), QPoint(30, 122),
-                     QPoint(290, 194), QPoint(160, 194)})
+    for (QPoint p : {QPoint(112, 100), QPoint(113, 280), QPoint(114, 100), QPoint(193, 150),
+                     QPoint(30, 122), QPoint(290, 194), QPoint(160, 194)})
         EXPECT_EQ(en(p.x(), p.y()), linea) << p.x() << "," << p.y() << " at scale " << escala;
     EXPECT_NE(en(113, 20), linea);  // under the panel
     for (QPushButton *b : f.cmdtir) // no line crosses a square

@@ -29,15 +29,23 @@ void Compara(const char *clave, const char *modo, const QStringList &visto)
     EXPECT_EQ(visto, Datos(clave, modo)) << clave << ' ' << modo;
 }
 
+// As designed, with the program's icon drawn at 32x32 in its title bar.
+void Disenada(const char *clave, QWidget *w)
+{
+    Compara(clave, "design", Textos(w, true));
+    EXPECT_TRUE(w->windowIcon().availableSizes().contains(QSize(32, 32))) << clave;
+    EXPECT_NE(w->windowIcon().pixmap(32).toImage().pixel(16, 16), 0u) << clave; // not blank
+}
+
 } // namespace
 
 TEST_F(Programa, EveryWindowAsDesigned)
 {
-    Compara("Form1", "design", Textos(new ui::VentanaPrincipal, true));
-    Compara("frmNivel", "design", Textos(new ui::DialogoNivel, true));
-    Compara("frmoponentes", "design", Textos(new ui::DialogoOponentes, true));
-    Compara("frmAbout", "design", Textos(new ui::DialogoAcerca, true));
-    Compara("frmSeleccion", "design", Textos(new ui::VentanaIdioma, true));
+    Disenada("Form1", new ui::VentanaPrincipal);
+    Disenada("frmNivel", new ui::DialogoNivel);
+    Disenada("frmoponentes", new ui::DialogoOponentes);
+    Disenada("frmAbout", new ui::DialogoAcerca);
+    Disenada("frmSeleccion", new ui::VentanaIdioma);
 }
 
 TEST_F(Programa, TabOrders)
