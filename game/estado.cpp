@@ -1,14 +1,15 @@
 #include "estado.h"
 
+// Static storage: everything starts at zero, False or empty, as before Main runs.
 Board Tablero;
-bool Jugando = false;
-Integer Nivel = 0;
-Integer Modo = 0;
-Integer Turno = 0;
+bool Jugando;
+Integer Nivel;
+Integer Modo;
+Integer Turno;
 std::string Jugador1;
 std::string Jugador2;
-Integer Idioma = 0;
-bool DesdeMenu = false;
+Integer Idioma;
+bool DesdeMenu;
 
 void ValoresIniciales()
 {
