@@ -66,10 +66,8 @@ VentanaPrincipal::VentanaPrincipal()
     cmdnuevo = CreaBoton(superficie, QStringLiteral("&Nuevo Juego"), TwRect(1695, 4380, 1215, 405));
     connect(cmdnuevo, &QPushButton::clicked, this, &VentanaPrincipal::cmdnuevo_Click);
 
-    // Tab order: the bottom-right square first, then 0 to 7, then new game.
+    // Tab order: the bottom-right square first, then 0 to 7 as built, then new game.
     setTabOrder(cmdtir[8], cmdtir[0]);
-    for (int k = 0; k + 1 < 8; ++k)
-        setTabOrder(cmdtir[k], cmdtir[k + 1]);
     setTabOrder(cmdtir[7], cmdnuevo);
     cmdtir[8]->setFocus();
 
