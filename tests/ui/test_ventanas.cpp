@@ -52,7 +52,10 @@ TEST_F(Programa, TabOrders)
 {
     AzarGuionado azar({kPersonaAbre});
     Arranca(false);
-    Compara("Form1", "tab", Tabulador(&Form1(), 9));
+    for (int k : {0, 1, 3}) // a lost game: the new-game button takes its turn
+        Clic(Form1().cmdtir[k]);
+    Form1().cmdtir[8]->setFocus();
+    Compara("Form1", "tab", Tabulador(&Form1(), 10));
     Compara("frmNivel", "tab", Tabulador(&frmNivel(), 2));
     Compara("frmoponentes", "tab", Tabulador(&frmoponentes(), 4));
     Compara("frmAbout", "tab", Tabulador(&frmAbout(), 1));
