@@ -66,8 +66,7 @@ VentanaPrincipal::VentanaPrincipal()
     cmdnuevo = CreaBoton(superficie, QStringLiteral("&Nuevo Juego"), TwRect(1695, 4380, 1215, 405));
     connect(cmdnuevo, &QPushButton::clicked, this, &VentanaPrincipal::cmdnuevo_Click);
 
-    // Tab order: the bottom-right square first, then 0 to 7 as built, then new game.
-    setTabOrder(cmdtir[8], cmdtir[0]);
+    // Tab order, a cycle: the bottom-right square, 0 to 7 as built, then new game.
     setTabOrder(cmdtir[7], cmdnuevo);
     cmdtir[8]->setFocus();
 
