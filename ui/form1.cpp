@@ -7,7 +7,6 @@
 #include "idioma.h"
 #include "movimiento.h"
 
-#include <QCloseEvent>
 #include <QLayout>
 #include <QMenuBar>
 #include <QPainter>
@@ -108,10 +107,9 @@ void VentanaPrincipal::Form_Load()
     Randomize(SegundosDesdeMedianoche());
 }
 
-void VentanaPrincipal::closeEvent(QCloseEvent *e)
+void VentanaPrincipal::closeEvent(QCloseEvent *)
 {
     Descargate();
-    e->accept();
 }
 
 void VentanaPrincipal::Form_Unload()

@@ -24,7 +24,6 @@ DialogoNivel::DialogoNivel() : Dialogo(QStringLiteral("Nivel de juego"), 2895, 1
     setTabOrder(cmdok, optNivel.Opcion(2));
     setTabOrder(optNivel.Opcion(2), optNivel.Opcion(1));
     setTabOrder(optNivel.Opcion(1), optNivel.Opcion(0));
-    cmdok->setDefault(true);
     cmdok->setFocus();
 }
 

@@ -93,13 +93,20 @@ void Clic(QAbstractButton *b)
 // What the player sees of one control: its text, the selected option marked
 // "(*)", a text box's limit, a menu with its items ("[x]" checked, "[-]"
 // disabled); "_" for nothing. Empty when it is no control of those kinds.
+// The colour of a background the widget paints itself, after a space.
+QString Fondo(QWidget *w)
+{
+    return w->autoFillBackground() ? " " + w->palette().color(QPalette::Window).name() : QString();
+}
+
 QString Describe(QWidget *w)
 {
     QString s;
     if (auto *m = qobject_cast<QMenu *>(w)) {
         s = m->title();
         for (QAction *a : m->actions())
-            s += " | " + (a->isSeparator() ? "-" : a->text()) + (a->isChecked() ? " [x]" : "") +
+            s += " | " + (a->isSeparator() ? "-" : a->text()) +
+                 (a->isCheckable() ? a->isChecked() ? " [x]" : " [ ]" : "") +
                  (a->isEnabled() ? "" : " [-]");
         return s;
     }
@@ -115,14 +122,14 @@ QString Describe(QWidget *w)
         s = QStringLiteral("[panel]");
     else
         return {};
-    return s.isEmpty() ? QStringLiteral("_") : s;
+    return (s.isEmpty() ? QStringLiteral("_") : s) + Fondo(w);
 }
 
 // The title, then every control in the order it was built, with its place
 // in pixels when `lugar`.
 QStringList Textos(QWidget *v, bool lugar)
 {
-    QStringList t{v->windowTitle()};
+    QStringList t{v->windowTitle() + Fondo(v)};
     for (QWidget *w : v->findChildren<QWidget *>()) {
         QString s = Describe(w);
         if (lugar && !s.isEmpty() && !qobject_cast<QMenu *>(w)) {

@@ -77,7 +77,7 @@ class Guion {
     QLineEdit *Caja(int i) const { return Delante()->findChildren<QLineEdit *>().at(i); }
 
     // Triggers a menu command; a dialog opens exactly when lines are given
-    // for it, and it is closed afterwards if they left it open.
+    // for it, and they must close it.
     void Menu(const QString &item, const QStringList &dentro)
     {
         using V = ui::VentanaPrincipal;
@@ -94,8 +94,10 @@ class Guion {
             abierto = true;
             const QPointer<QWidget> vivo = w;
             Corre(dentro);
-            if (vivo && vivo->isVisible())
+            if (vivo && vivo->isVisible()) {
+                ADD_FAILURE() << "left open";
                 vivo->close();
+            }
         });
         (Form1().*items.at(item))->trigger();
         delete vigia;
