@@ -219,7 +219,7 @@ void VentanaPrincipal::mnu1vs2_Click()
     mnuNivel->setEnabled(false);
     mnuoponentes_Click();
     Modo = kDosJugadores;
-    Turno = static_cast<Integer>(AlAzar(2) + 1); // replaced by the new game; only the draw counts
+    AlAzar(2); // a turn the new game draws again: only the draw itself counts
     cmdnuevo_Click();
 }
 

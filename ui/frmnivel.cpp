@@ -20,10 +20,8 @@ DialogoNivel::DialogoNivel() : Dialogo(QStringLiteral("Nivel de juego"), 2895, 1
                     QStringLiteral("3._ A que no me ganas."));
     optNivel.Selecciona(2); // as designed, before any handler is attached
     optNivel.Click = [this](Integer i) { optNivel_Click(i); };
+    // Tab goes from OK to the selected option and back, as built.
 
-    setTabOrder(cmdok, optNivel.Opcion(2));
-    setTabOrder(optNivel.Opcion(2), optNivel.Opcion(1));
-    setTabOrder(optNivel.Opcion(1), optNivel.Opcion(0));
     cmdok->setFocus();
 }
 

@@ -34,9 +34,7 @@ VentanaIdioma::VentanaIdioma()
             optEspañol_Click();
     };
 
-    setTabOrder(cmdAceptar, cmdSalir);
-    setTabOrder(cmdSalir, optEspañol);
-    setTabOrder(optEspañol, optIngles);
+    // Tab goes Accept, Exit, the selected option, as built.
     cmdAceptar->setDefault(true); // Enter on an option accepts it
     cmdAceptar->setFocus();
 }

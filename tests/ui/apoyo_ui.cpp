@@ -93,10 +93,14 @@ void Clic(QAbstractButton *b)
 // What the player sees of one control: its text, the selected option marked
 // "(*)", a text box's limit, a menu with its items ("[x]" checked, "[-]"
 // disabled); "_" for nothing. Empty when it is no control of those kinds.
-// The colour of a background the widget paints itself, after a space.
+// A raised bevel, and the colour of a background the widget paints itself.
 QString Fondo(QWidget *w)
 {
-    return w->autoFillBackground() ? " " + w->palette().color(QPalette::Window).name() : QString();
+    auto *marco = qobject_cast<QFrame *>(w);
+    const bool bisel = marco && marco->frameStyle() == (QFrame::Panel | QFrame::Raised);
+    return (bisel ? QStringLiteral(" raised") : QString()) +
+           (w->autoFillBackground() ? " " + w->palette().color(QPalette::Window).name()
+                                    : QString());
 }
 
 QString Describe(QWidget *w)
