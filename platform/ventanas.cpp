@@ -198,13 +198,6 @@ void TextosQtEnEspanol(bool espanol)
         QCoreApplication::installTranslator(catalogo);
 }
 
-void TerminaPrograma()
-{
-    for (QWidget *w : QApplication::topLevelWidgets())
-        w->close();
-    QCoreApplication::exit(0);
-}
-
 QString Trim(const QString &texto)
 {
     qsizetype inicio = 0;

@@ -148,8 +148,5 @@ void MsgBoxInformacion(QWidget *padre, const QString &titulo, const QString &tex
 // Spanish, or back in English.
 void TextosQtEnEspanol(bool espanol);
 
-// Closes every window and leaves the event loop: the end of the program.
-void TerminaPrograma();
-
 // The text without its leading and trailing spaces (only the space character).
 QString Trim(const QString &texto);

@@ -7,6 +7,7 @@
 #include "idioma.h"
 #include "movimiento.h"
 
+#include <QCoreApplication>
 #include <QLayout>
 #include <QMenuBar>
 #include <QPainter>
@@ -114,7 +115,7 @@ void VentanaPrincipal::closeEvent(QCloseEvent *)
 
 void VentanaPrincipal::Form_Unload()
 {
-    TerminaPrograma();
+    QCoreApplication::exit(0); // the end of the program, at once
 }
 
 void VentanaPrincipal::cmdtir_Click(Integer Index)
