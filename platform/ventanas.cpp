@@ -24,7 +24,6 @@ QFont FuentePrograma(double puntos, bool negrita)
     static const QFont base = [] {
         QFont b;
         b.setFamilies({QStringLiteral("MS Sans Serif"), QStringLiteral("Liberation Sans"),
-                       QStringLiteral("Arial"),
                        QFontDatabase::systemFont(QFontDatabase::GeneralFont).family()});
         b.setStyleHint(QFont::SansSerif);
         return b;
@@ -144,15 +143,6 @@ QRadioButton *GrupoOpciones::Agrega(QWidget *padre, const QRect &geometria, cons
 void GrupoOpciones::Selecciona(int indice)
 {
     Opcion(indice)->setChecked(true);
-}
-
-void GrupoOpciones::Limpia()
-{
-    // An exclusive group keeps one button checked; lift that while clearing.
-    grupo_->setExclusive(false);
-    for (QAbstractButton *b : grupo_->buttons())
-        b->setChecked(false);
-    grupo_->setExclusive(true);
 }
 
 QRadioButton *GrupoOpciones::Opcion(int indice) const

@@ -54,16 +54,13 @@ template <class VentanaQt> class Formulario : public VentanaQt {
     }
 
   protected:
-    virtual void Form_Unload() {}
-    // The one way out: Form_Unload, then the window goes once the event
-    // loop is back.
+    // The one way out: the window goes once the event loop is back.
     void Descargate()
     {
         if (descargado_)
             return;
         descargado_ = true;
         this->deleteLater();
-        Form_Unload();
     }
 
   private:
@@ -114,7 +111,7 @@ class Panel3D : public QLabel {
     void Caption(const QString &texto);
 };
 
-// Option buttons in one container: exactly one selected, or none after Limpia.
+// Option buttons in one container: exactly one selected.
 // Click runs with the index whenever an option becomes selected, by the user
 // or by Selecciona, before Selecciona returns.
 class GrupoOpciones {
@@ -122,7 +119,6 @@ class GrupoOpciones {
     explicit GrupoOpciones(QObject *dueno);
     QRadioButton *Agrega(QWidget *padre, const QRect &geometria, const QString &texto);
     void Selecciona(int indice);
-    void Limpia();
     QRadioButton *Opcion(int indice) const;
     std::function<void(Integer)> Click;
 

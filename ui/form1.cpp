@@ -7,7 +7,6 @@
 #include "idioma.h"
 #include "movimiento.h"
 
-#include <QCoreApplication>
 #include <QLayout>
 #include <QMenuBar>
 #include <QPainter>
@@ -111,11 +110,6 @@ void VentanaPrincipal::Form_Load()
 void VentanaPrincipal::closeEvent(QCloseEvent *)
 {
     Descargate();
-}
-
-void VentanaPrincipal::Form_Unload()
-{
-    QCoreApplication::exit(0); // the end of the program, at once
 }
 
 void VentanaPrincipal::cmdtir_Click(Integer Index)
@@ -240,8 +234,7 @@ void VentanaPrincipal::mnuvspc_Click()
 
 void VentanaPrincipal::mnuNivel_Click()
 {
-    frmNivel().optNivel.Limpia();
-    frmNivel().optNivel.Selecciona(Nivel - 1);
+    frmNivel().optNivel.Selecciona(Nivel - 1); // it opens on the level in force
     frmNivel().MuestraModal();
     AplicaIdioma();
     cmdnuevo_Click();

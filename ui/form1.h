@@ -46,9 +46,9 @@ class VentanaPrincipal : public Formulario<QMainWindow> {
     void ActualizaAccesibles();
 
   protected:
+    // Form_Unload. The main window is the last one open, and the program
+    // ends with it.
     void closeEvent(QCloseEvent *e) override;
-    // Unloading the main window ends the program.
-    void Form_Unload() override;
 
   private:
     void JuegaCasilla(Integer Index);

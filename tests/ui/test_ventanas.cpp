@@ -52,6 +52,7 @@ TEST_F(Programa, TabOrders)
 {
     AzarGuionado azar({kPersonaAbre});
     Arranca(false);
+    EXPECT_EQ(Form1().focusWidget(), Form1().cmdtir[8]);
     for (int k : {0, 1, 3}) // a lost game: the new-game button takes its turn
         Clic(Form1().cmdtir[k]);
     Form1().cmdtir[8]->setFocus();
@@ -78,4 +79,17 @@ TEST_F(Programa, EveryWindowInTheLanguageChosen)
         Compara("frmoponentes", idioma, Textos(&frmoponentes(), false));
         Compara("frmAbout", idioma, Textos(&frmAbout(), false));
     }
+}
+
+TEST_F(Programa, TheMainWindowSeedsTheGeneratorFromTheClock)
+{
+    const float antes = SegundosDesdeMedianoche();
+    Arranca(false);
+    const float x = Azar().Rnd();
+    const auto sembrado = [](float segundos) {
+        GeneradorAzar g;
+        g.Randomize(segundos);
+        return g.Rnd();
+    };
+    EXPECT_TRUE(x == sembrado(antes) || x == sembrado(SegundosDesdeMedianoche())) << x;
 }
