@@ -57,8 +57,6 @@ template <class VentanaQt> class Formulario : public VentanaQt {
     // The one way out: the window goes once the event loop is back.
     void Descargate()
     {
-        if (descargado_)
-            return;
         descargado_ = true;
         this->deleteLater();
     }
