@@ -10,8 +10,8 @@ bool CentroLibre(const Board &tablero)
 
 bool MovimientoPC(Board &tablero)
 {
-    Integer columna = 0;
-    Integer fila = 0;
+    Integer columna{}; // written by the strategy that answers
+    Integer fila{};
     const auto juega = [&] {
         tablero(columna, fila) = kCero;
         return true;

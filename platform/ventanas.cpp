@@ -63,8 +63,9 @@ void Dialogo::PintaFondo(const QColor &color)
 
 void Dialogo::MuestraModal()
 {
-    CentraVentana(this);
-    exec(); // without an owner: modal to the whole application
+    // Without an owner: modal to the whole application, and Qt centres it
+    // over the active window, the main window.
+    exec();
 }
 
 void CentraVentana(QWidget *w)
@@ -161,9 +162,7 @@ void CajaTexto::keyPressEvent(QKeyEvent *e)
     const bool enter = e->key() == Qt::Key_Return || e->key() == Qt::Key_Enter;
     if (KeyDown)
         KeyDown(enter ? 13 : e->key());
-    if (enter)
-        e->accept(); // handled: the dialog's default button must not see it too
-    else
+    if (!enter) // Enter is handled: the dialog's default button must not see it too
         QLineEdit::keyPressEvent(e);
 }
 

@@ -27,8 +27,7 @@ DialogoOponentes::DialogoOponentes() : Dialogo(QStringLiteral("Oponentes"), 3990
     label[0]->setBuddy(Text1[0]);
     Label1->setBuddy(Text1[1]);
 
-    setTabOrder(Command1, Command2);
-    setTabOrder(Command2, Text1[1]);
+    setTabOrder(Command2, Text1[1]); // OK and Cancel come first, as built
     setTabOrder(Text1[1], Text1[0]);
     Command1->setDefault(true); // Enter presses OK unless Cancel has the focus
     Command1->setFocus();

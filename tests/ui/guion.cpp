@@ -201,6 +201,10 @@ class Guion {
         } else if (orden == "shows") { // the window in front, as textos.txt has it
             EXPECT_EQ(Textos(Delante(), false),
                       Datos(resto.toStdString(), Idioma == kIngles ? "en" : "es"));
+        } else if (orden == "centred") { // the window in front, over the main window
+            EXPECT_LE((Delante()->frameGeometry().center() - Form1().frameGeometry().center())
+                          .manhattanLength(),
+                      8);
         } else if (orden == "focus") {
             EXPECT_EQ(Delante()->focusWidget(), Caja(p.value(0).toInt()));
         } else if (orden == "text") {
