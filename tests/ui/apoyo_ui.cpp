@@ -133,7 +133,8 @@ QString Describe(QWidget *w)
 // in pixels when `lugar`.
 QStringList Textos(QWidget *v, bool lugar)
 {
-    QStringList t{v->windowTitle() + Fondo(v)};
+    const bool fija = v->minimumSize() == v->maximumSize();
+    QStringList t{v->windowTitle() + Fondo(v) + (fija ? QStringLiteral(" fixed") : QString())};
     for (QWidget *w : v->findChildren<QWidget *>()) {
         QString s = Describe(w);
         if (lugar && !s.isEmpty() && !qobject_cast<QMenu *>(w)) {
