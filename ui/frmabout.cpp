@@ -15,7 +15,6 @@ DialogoAcerca::DialogoAcerca() : Dialogo(QStringLiteral("About..."), 5625, 2130)
     connect(cmdAceptar, &QPushButton::clicked, this, &DialogoAcerca::cmdAceptar_Click);
     Panel = new Panel3D(this, TwRect(120, 90, 5355, 1515), Qt::AlignLeft | Qt::AlignTop);
     Panel->setMargin(2);
-    cmdAceptar->setFocus();
 }
 
 void DialogoAcerca::Form_Load()

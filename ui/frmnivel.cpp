@@ -21,8 +21,6 @@ DialogoNivel::DialogoNivel() : Dialogo(QStringLiteral("Nivel de juego"), 2895, 1
     optNivel.Selecciona(2); // as designed, before any handler is attached
     optNivel.Click = [this](Integer i) { optNivel_Click(i); };
     // Tab goes from OK to the selected option and back, as built.
-
-    cmdok->setFocus();
 }
 
 void DialogoNivel::optNivel_Click(Integer Index)

@@ -27,10 +27,9 @@ DialogoOponentes::DialogoOponentes() : Dialogo(QStringLiteral("Oponentes"), 3990
     label[0]->setBuddy(Text1[0]);
     Label1->setBuddy(Text1[1]);
 
-    setTabOrder(Command2, Text1[1]); // OK and Cancel come first, as built
-    setTabOrder(Text1[1], Text1[0]);
+    // Tab: OK, Cancel, the second name, the first; OK has the focus first.
+    setTabOrder(Command2, Text1[1]);
     Command1->setDefault(true); // Enter presses OK unless Cancel has the focus
-    Command1->setFocus();
 }
 
 void DialogoOponentes::Form_Load()

@@ -36,7 +36,6 @@ VentanaIdioma::VentanaIdioma()
 
     // Tab goes Accept, Exit, the selected option, as built.
     cmdAceptar->setDefault(true); // Enter on an option accepts it
-    cmdAceptar->setFocus();
 }
 
 void VentanaIdioma::Form_Load()
