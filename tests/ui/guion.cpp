@@ -72,6 +72,11 @@ class Guion {
             return m;
         return frmSeleccion.Existe() ? static_cast<QWidget *>(&frmSeleccion()) : &Form1();
     }
+    void Activa() const
+    {
+        Delante()->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(Delante()));
+    }
     QAbstractButton *Boton(int i) const { return Delante()->findChildren<QPushButton *>().at(i); }
     QRadioButton *Opcion(int i) const { return Delante()->findChildren<QRadioButton *>().at(i); }
     QLineEdit *Caja(int i) const { return Delante()->findChildren<QLineEdit *>().at(i); }
@@ -148,10 +153,8 @@ class Guion {
             QWidget *w = p.value(1) == "box"   ? Caja(p.value(2).toInt())
                          : p.value(1) == "opt" ? Opcion(p.value(2).toInt())
                                                : Delante();
-            if (p.value(1) == "opt") { // arrows move from the focus widget of the active window
-                Delante()->activateWindow();
-                ASSERT_TRUE(QTest::qWaitForWindowActive(Delante()));
-            }
+            if (p.value(1) == "opt") // arrows move from the focus widget of the active window
+                Activa();
             w->setFocus();
             QTest::keyClick(w, QKeySequence::fromString(p.value(0))[0].key());
         } else if (orden == "message") { // armed for the action on the next line
@@ -205,6 +208,15 @@ class Guion {
             EXPECT_LE((Delante()->frameGeometry().center() - Form1().frameGeometry().center())
                           .manhattanLength(),
                       8);
+        } else if (orden == "tabs") { // what a screen reader hears at the focus, then at each Tab
+            const QStringList esperado = Datos(resto.toStdString(), "tab");
+            QStringList oido;
+            Activa();
+            while (oido.size() < esperado.size()) {
+                oido << Accesible(QApplication::focusWidget());
+                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            }
+            EXPECT_EQ(oido, esperado);
         } else if (orden == "focus") {
             EXPECT_EQ(Delante()->focusWidget(), Caja(p.value(0).toInt()));
         } else if (orden == "text") {

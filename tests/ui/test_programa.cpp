@@ -1,8 +1,10 @@
 // The program from start to exit, driven as a player drives it: every script
-// of tests/datos/guiones.txt, in Spanish and in English.
+// of tests/datos/guiones.txt, in Spanish and in English; and every window as
+// designed, as tests/datos/textos.txt lists them.
 #include "apoyo_ui.h"
 
 #include <fstream>
+#include <set>
 
 TEST_F(Programa, EveryScriptInBothLanguages)
 {
@@ -20,4 +22,37 @@ TEST_F(Programa, EveryScriptInBothLanguages)
             ReiniciaPrograma();
             Ejecuta(lineas, ingles);
         }
+}
+
+// Each window as built, with the program's icon drawn at 32x32 in its title bar.
+TEST_F(Programa, EveryWindowAsDesigned)
+{
+    const std::pair<const char *, QWidget *> ventanas[] = {
+        {"Form1", new ui::VentanaPrincipal},
+        {"frmNivel", new ui::DialogoNivel},
+        {"frmoponentes", new ui::DialogoOponentes},
+        {"frmAbout", new ui::DialogoAcerca},
+        {"frmSeleccion", new ui::VentanaIdioma}};
+    for (auto [clave, w] : ventanas) {
+        EXPECT_EQ(Textos(w, true), Datos(clave, "design")) << clave;
+        EXPECT_TRUE(w->windowIcon().availableSizes().contains(QSize(32, 32))) << clave;
+        const QImage icono = w->windowIcon().pixmap(32).toImage();
+        std::set<QRgb> colores;
+        for (int k = 0; k < 32 * 32; ++k)
+            colores.insert(icono.pixel(k % 32, k / 32));
+        EXPECT_GE(colores.size(), 4u) << clave; // drawn in its colours, not blank or flat
+    }
+}
+
+TEST_F(Programa, TheMainWindowSeedsTheGeneratorFromTheClock)
+{
+    const float antes = SegundosDesdeMedianoche();
+    Arranca(false);
+    const float x = Azar().Rnd();
+    const auto sembrado = [](float segundos) {
+        GeneradorAzar g;
+        g.Randomize(segundos);
+        return g.Rnd();
+    };
+    EXPECT_TRUE(x == sembrado(antes) || x == sembrado(SegundosDesdeMedianoche())) << x;
 }
