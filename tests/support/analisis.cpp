@@ -1,5 +1,6 @@
 #include "analisis.h"
 
+#include "apoyo.h"
 #include "azar.h"
 #include "estado.h"
 #include "movimiento.h"
@@ -8,11 +9,10 @@
 
 namespace {
 
-// Replays a prefix of choices and records the size of every choice asked for.
-class AzarRamas final : public FuenteAzar {
-  public:
-    std::vector<Integer> guion;
-    std::vector<Integer> tamanos;
+// Answers the first choices from a script, the rest with 0, and records
+// the size of every choice asked for.
+struct AzarRamas final : FuenteAzar {
+    std::vector<Integer> guion, tamanos;
     float Rnd() override { return 0.0f; }
     Integer Elige(Integer n) override
     {
@@ -21,62 +21,41 @@ class AzarRamas final : public FuenteAzar {
     }
 };
 
-void Ramifica(const Board &inicio, AzarRamas &azar, double prob, std::vector<Respuesta> &salida)
+void Ramifica(const Board &inicio, const std::vector<Integer> &guion, double prob,
+              std::vector<Respuesta> &salida)
 {
-    azar.tamanos.clear();
+    AzarRamas azar;
+    azar.guion = guion;
     Board b = inicio;
+    UsaFuenteAzar(&azar);
     MovimientoPC(b);
-    const std::size_t hechas = azar.guion.size();
-    if (azar.tamanos.size() <= hechas) {
-        for (Respuesta &r : salida)
-            if (r.tablero == b) {
-                r.probabilidad += prob;
-                return;
-            }
-        salida.push_back({b, prob});
-        return;
-    }
-    const Integer n = azar.tamanos[hechas];
-    for (Integer k = 0; k < n; ++k) {
-        azar.guion.push_back(k);
-        Ramifica(inicio, azar, prob / n, salida);
-        azar.guion.pop_back();
-    }
-}
-
-int Clave(const Board &b)
-{
-    int clave = 0;
-    for (Integer v : b.celda)
-        clave = clave * 3 + v;
-    return clave;
+    UsaFuenteAzar(nullptr);
+    if (azar.tamanos.size() <= guion.size())
+        return salida.push_back({b, prob});
+    azar.guion.push_back(0);
+    for (const Integer n = azar.tamanos[guion.size()]; azar.guion.back() < n; ++azar.guion.back())
+        Ramifica(inicio, azar.guion, prob / n, salida);
 }
 
 } // namespace
 
 std::vector<Respuesta> RespuestasPC(const Board &tablero)
 {
-    AzarRamas azar;
-    UsaFuenteAzar(&azar);
     std::vector<Respuesta> salida;
-    Ramifica(tablero, azar, 1.0, salida);
-    UsaFuenteAzar(nullptr);
+    Ramifica(tablero, {}, 1.0, salida);
     return salida;
 }
 
 double Analisis::AlMover(const Board &tablero)
 {
-    double &memo = memo_[Clave(tablero)];
-    if (memo < 0.0) {
-        memo = 0.0;
-        for (std::size_t k = 0; k < 9; ++k)
-            if (tablero.celda[k] == kVacia) {
-                Board b = tablero;
-                b.celda[k] = kEquis;
-                memo = std::max(memo, TrasJugada(b));
-            }
-    }
-    return memo;
+    const auto [memo, nuevo] = memo_.try_emplace(ComoTexto(tablero), 0.0);
+    for (std::size_t k = 0; nuevo && k < 9; ++k)
+        if (tablero.celda[k] == kVacia) {
+            Board b = tablero;
+            b.celda[k] = kEquis;
+            memo->second = std::max(memo->second, TrasJugada(b));
+        }
+    return memo->second;
 }
 
 double Analisis::TrasJugada(const Board &tablero)

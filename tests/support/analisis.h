@@ -4,6 +4,8 @@
 
 #include "tablero.h"
 
+#include <map>
+#include <string>
 #include <vector>
 
 struct Respuesta {
@@ -11,13 +13,13 @@ struct Respuesta {
     double probabilidad;
 };
 
-// Every distinct board MovimientoPC can leave, at the current Nivel.
+// MovimientoPC's answer down every branch of its draws, at the current Nivel.
 std::vector<Respuesta> RespuestasPC(const Board &tablero);
 
 // The person's best chance to win against one level, playing "X".
 class Analisis {
   public:
-    explicit Analisis(Integer nivel) : nivel_(nivel), memo_(19683, -1.0) {}
+    explicit Analisis(Integer nivel) : nivel_(nivel) {}
     // The person is to move on `tablero`.
     double AlMover(const Board &tablero);
     // The computer answers next on `tablero` (on the empty board: it opens).
@@ -25,5 +27,5 @@ class Analisis {
 
   private:
     Integer nivel_;
-    std::vector<double> memo_;
+    std::map<std::string, double> memo_;
 };

@@ -53,6 +53,8 @@ void ReiniciaPrograma()
     CorreHastaElFin([] { QCoreApplication::exit(0); });
     BorraEstado();
     UsaFuenteAzar(nullptr);
+    static const QPalette tema = QApplication::palette();
+    QApplication::setPalette(tema);
 }
 
 QStringList Datos(const std::string &clave, const std::string &modo)

@@ -24,7 +24,8 @@ inline void PrintTo(const QString &s, std::ostream *os)
 // The draw from 0.5 up lets the person open a game against the computer.
 constexpr float kPersonaAbre = 0.75f;
 
-// Every window destroyed, the state as before Main, the default source back.
+// Every window destroyed, the state as before Main, the default source and
+// the light theme back.
 void ReiniciaPrograma();
 
 class Programa : public ::testing::Test {

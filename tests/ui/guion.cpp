@@ -5,15 +5,18 @@
 #include "estado.h"
 
 #include <QAccessible>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QStyle>
 #include <QTest>
 
 #include <QTimer>
 
+#include <cmath>
 #include <map>
 #include <memory>
 
@@ -22,6 +25,62 @@ namespace {
 QString Accesible(QWidget *w)
 {
     return QAccessible::queryAccessibleInterface(w)->text(QAccessible::Name);
+}
+
+// WCAG's relative luminance.
+double Luz(const QColor &c)
+{
+    double l = 0;
+    for (auto [canal, peso] :
+         {std::pair{c.redF(), 0.2126}, {c.greenF(), 0.7152}, {c.blueF(), 0.0722}})
+        l += peso * (canal <= 0.03928 ? canal / 12.92 : std::pow((canal + 0.055) / 1.055, 2.4));
+    return l;
+}
+
+// Every caption of the window fits the part of its control the user can see
+// (a control may run past its container's edge), and every enabled text
+// stands out from the background it is drawn on (WCAG contrast 4.5 or more).
+void BienVisible(QWidget *ventana)
+{
+    for (QWidget *w : ventana->findChildren<QWidget *>()) {
+        QString texto;
+        int margen = 0;
+        QPalette::ColorRole tinta = QPalette::WindowText, fondo = QPalette::Window;
+        QWidget *pinta = w; // the nearest widget that paints its own background
+        while (!pinta->autoFillBackground() && !pinta->isWindow())
+            pinta = pinta->parentWidget();
+        const auto medida = [w](QStyle::PixelMetric m) {
+            return w->style()->pixelMetric(m, nullptr, w);
+        };
+        if (auto *r = qobject_cast<QRadioButton *>(w)) {
+            texto = r->text();
+            margen = medida(QStyle::PM_ExclusiveIndicatorWidth) +
+                     medida(QStyle::PM_RadioButtonLabelSpacing);
+        } else if (auto *b = qobject_cast<QPushButton *>(w)) {
+            texto = b->text();
+            margen = 2 * medida(QStyle::PM_ButtonMargin);
+            tinta = QPalette::ButtonText, fondo = QPalette::Button, pinta = w;
+        } else if (auto *l = qobject_cast<QLabel *>(w)) {
+            texto = l->text();
+            margen = 2 * (l->frameWidth() + l->margin());
+        } else if (qobject_cast<QLineEdit *>(w)) {
+            tinta = QPalette::Text, fondo = QPalette::Base, pinta = w;
+        } else {
+            continue;
+        }
+        const double a = Luz(w->palette().color(tinta)), b = Luz(pinta->palette().color(fondo));
+        if (w->isEnabled()) { // greyed-out texts are meant to recede
+            EXPECT_GE((std::max(a, b) + 0.05) / (std::min(a, b) + 0.05), 4.5)
+                << qPrintable(Describe(w));
+        }
+        const int ancho =
+            std::min(w->width(), w->parentWidget()->contentsRect().right() + 1 - w->x());
+        // As shown: "&" marks the access key, "&&" shows one "&".
+        texto.replace("&&", "\x01").remove('&').replace('\x01', '&');
+        for (const QString &linea : texto.split('\n'))
+            EXPECT_LE(QFontMetrics(w->font()).horizontalAdvance(linea) + margen, ancho)
+                << qPrintable(linea);
+    }
 }
 
 class Guion {
@@ -168,6 +227,16 @@ class Guion {
                 EXPECT_EQ(m->text(), Texto(clave));
                 m->accept();
             });
+        } else if (orden == "theme") { // dark: light text on dark grounds
+            QPalette oscuro = QApplication::palette();
+            for (auto [rol, color] : {std::pair{QPalette::Window, QColor(40, 40, 40)},
+                                      {QPalette::Base, QColor(25, 25, 25)},
+                                      {QPalette::Button, QColor(55, 55, 55)},
+                                      {QPalette::WindowText, QColor(230, 230, 230)},
+                                      {QPalette::Text, QColor(235, 235, 235)},
+                                      {QPalette::ButtonText, QColor(230, 230, 230)}})
+                oscuro.setColor(rol, color);
+            QApplication::setPalette(oscuro);
         } else if (orden == "quit") { // the program ends by itself
             EXPECT_EQ(CorreHastaElFin([&] { Corre({resto}); }), 0);
             EXPECT_FALSE(Form1.Existe());
@@ -217,6 +286,22 @@ class Guion {
                 QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
             }
             EXPECT_EQ(oido, esperado);
+        } else if (orden == "readable") {
+            BienVisible(Delante());
+        } else if (orden == "grid") { // the lines between the squares, at any scale
+            const QImage imagen = Form1().centralWidget()->grab().toImage();
+            const qreal escala = imagen.devicePixelRatio();
+            const QColor linea = Form1().palette().color(QPalette::WindowText);
+            const auto en = [&](int x, int y) {
+                return imagen.pixelColor(qRound(x * escala), qRound(y * escala)) == linea;
+            };
+            for (QPoint q : {QPoint(112, 100), QPoint(113, 280), QPoint(114, 100), QPoint(193, 150),
+                             QPoint(30, 122), QPoint(290, 194), QPoint(160, 194)})
+                EXPECT_TRUE(en(q.x(), q.y())) << q.x() << "," << q.y() << " at scale " << escala;
+            EXPECT_FALSE(en(113, 20));            // under the panel
+            for (QPushButton *b : Form1().cmdtir) // no line crosses a square
+                for (int x = b->x() + 2; x < b->x() + b->width() - 2; x += 4)
+                    ASSERT_FALSE(en(x, b->y() + b->height() / 2));
         } else if (orden == "focus") {
             EXPECT_EQ(Delante()->focusWidget(), Caja(p.value(0).toInt()));
         } else if (orden == "text") {
