@@ -1,7 +1,6 @@
 #include "analisis.h"
 
 #include "apoyo.h"
-#include "azar.h"
 #include "estado.h"
 #include "movimiento.h"
 
@@ -9,32 +8,26 @@
 
 namespace {
 
-// Answers the first choices from a script, the rest with 0, and records
-// the size of every choice asked for.
-struct AzarRamas final : FuenteAzar {
-    std::vector<Integer> guion, tamanos;
-    float Rnd() override { return 0.0f; }
-    Integer Elige(Integer n) override
-    {
-        tamanos.push_back(n);
-        return tamanos.size() <= guion.size() ? guion[tamanos.size() - 1] : 0;
-    }
-};
-
-void Ramifica(const Board &inicio, const std::vector<Integer> &guion, double prob,
+// Each draw of the computer's is a choice of n, made by floor(n * x): the
+// script (k + 0.5) / n takes branch k.
+void Ramifica(const Board &inicio, std::vector<float> guion, double prob,
               std::vector<Respuesta> &salida)
 {
-    AzarRamas azar;
-    azar.guion = guion;
     Board b = inicio;
-    UsaFuenteAzar(&azar);
-    MovimientoPC(b);
-    UsaFuenteAzar(nullptr);
-    if (azar.tamanos.size() <= guion.size())
+    std::vector<Integer> tamanos;
+    {
+        AzarGuionado azar(guion);
+        MovimientoPC(b);
+        tamanos = azar.tamanos;
+    }
+    if (tamanos.size() <= guion.size())
         return salida.push_back({b, prob});
-    azar.guion.push_back(0);
-    for (const Integer n = azar.tamanos[guion.size()]; azar.guion.back() < n; ++azar.guion.back())
-        Ramifica(inicio, azar.guion, prob / n, salida);
+    const Integer n = tamanos[guion.size()];
+    guion.push_back(0);
+    for (Integer k = 0; k < n; ++k) {
+        guion.back() = (float(k) + 0.5f) / float(n);
+        Ramifica(inicio, guion, prob / n, salida);
+    }
 }
 
 } // namespace

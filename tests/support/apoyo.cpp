@@ -20,28 +20,12 @@ std::string ComoTexto(const Board &b)
     return s;
 }
 
-AzarGuionado::AzarGuionado(std::vector<float> valores) : valores_(std::move(valores))
-{
-    UsaFuenteAzar(this);
-}
-
-AzarGuionado::~AzarGuionado()
-{
-    UsaFuenteAzar(nullptr);
-}
-
 float AzarGuionado::Rnd()
 {
-    ++sacadas;
-    if (siguiente_ < valores_.size())
-        return valores_[siguiente_++];
+    if (std::size_t(sacadas++) < valores.size())
+        return valores[std::size_t(sacadas - 1)];
     ++excedidas;
     return 0.0f;
-}
-
-void AzarGuionado::Agrega(const std::vector<float> &valores)
-{
-    valores_.insert(valores_.end(), valores.begin(), valores.end());
 }
 
 std::vector<std::string> Filas(const std::string &archivo)

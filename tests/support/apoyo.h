@@ -12,20 +12,21 @@
 Board DesdeTexto(const std::string &celdas);
 std::string ComoTexto(const Board &b);
 
-// The source in use while it lives: hands out scripted values and counts the
-// draws. A draw past the end of the script counts as an overrun and gives 0.
-class AzarGuionado : public FuenteAzar {
-  public:
-    explicit AzarGuionado(std::vector<float> valores = {});
-    ~AzarGuionado() override;
+// The source in use while it lives: hands out scripted values (0 past the
+// end, counted as an overrun), counts the draws and records the size of
+// every choice asked for.
+struct AzarGuionado final : FuenteAzar {
+    explicit AzarGuionado(std::vector<float> v = {}) : valores(std::move(v))
+    {
+        UsaFuenteAzar(this);
+    }
+    ~AzarGuionado() override { UsaFuenteAzar(nullptr); }
     float Rnd() override;
-    void Agrega(const std::vector<float> &valores);
+    Integer Elige(Integer n) override { return tamanos.push_back(n), FuenteAzar::Elige(n); }
+    std::vector<float> valores;
+    std::vector<Integer> tamanos;
     int sacadas = 0;
     int excedidas = 0;
-
-  private:
-    std::vector<float> valores_;
-    std::size_t siguiente_ = 0;
 };
 
 // The largest float below 1 and below 0.5.

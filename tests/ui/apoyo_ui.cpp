@@ -2,7 +2,6 @@
 
 #include "estado.h"
 
-#include <QDeadlineTimer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -13,34 +12,6 @@
 
 #include <map>
 
-int CorreHastaElFin(const std::function<void()> &accion)
-{
-    QTimer::singleShot(0, accion);
-    QTimer limite;
-    limite.setSingleShot(true);
-    QObject::connect(&limite, &QTimer::timeout, [] { QCoreApplication::exit(99); });
-    limite.start(3000);
-    return QCoreApplication::exec();
-}
-
-QTimer *CuandoModal(std::function<void(QWidget *)> accion)
-{
-    auto *reloj = new QTimer;
-    QPointer<QWidget> antes = QApplication::activeModalWidget();
-    QObject::connect(reloj, &QTimer::timeout, [reloj, accion, antes, plazo = QDeadlineTimer(2000)] {
-        QWidget *m = QApplication::activeModalWidget();
-        const bool abierta = m && m != antes && m->isVisible();
-        if (abierta || plazo.hasExpired()) {
-            reloj->stop();
-            reloj->deleteLater();
-        }
-        if (abierta)
-            accion(m);
-    });
-    reloj->start(0);
-    return reloj;
-}
-
 void ReiniciaPrograma()
 {
     // Deleting one window may take others with it: hold them by QPointer.
@@ -50,7 +21,8 @@ void ReiniciaPrograma()
     for (const QPointer<QWidget> &w : ventanas)
         delete w.data();
     // A turn of the loop consumes pending deletions and quit requests.
-    CorreHastaElFin([] { QCoreApplication::exit(0); });
+    QTimer::singleShot(0, [] { QCoreApplication::exit(0); });
+    QCoreApplication::exec();
     BorraEstado();
     UsaFuenteAzar(nullptr);
     static const QPalette tema = QApplication::palette();
@@ -72,15 +44,6 @@ QStringList Datos(const std::string &clave, const std::string &modo)
     for (auto i = desde; i != hasta; ++i)
         valores << i->second;
     return valores;
-}
-
-void Arranca(bool ingles)
-{
-    Main();
-    if (ingles)
-        Clic(frmSeleccion().optIngles);
-    Clic(frmSeleccion().cmdAceptar);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 void Clic(QAbstractButton *b)
@@ -149,4 +112,14 @@ QStringList Textos(QWidget *v, bool lugar)
             t << s;
     }
     return t;
+}
+
+int main(int argc, char **argv)
+{
+    // Headless unless told otherwise; test discovery at build time has no display.
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    ::testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
 }

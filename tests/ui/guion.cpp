@@ -5,6 +5,7 @@
 #include "estado.h"
 
 #include <QAccessible>
+#include <QDeadlineTimer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -13,14 +14,46 @@
 #include <QRadioButton>
 #include <QStyle>
 #include <QTest>
-
 #include <QTimer>
 
 #include <cmath>
+#include <functional>
 #include <map>
 #include <memory>
 
 namespace {
+
+// Runs the event loop with `accion` as its first event and returns its exit
+// code once the program ends by itself (99 if it has not within 3 seconds).
+int CorreHastaElFin(const std::function<void()> &accion)
+{
+    QTimer::singleShot(0, accion);
+    QTimer limite;
+    limite.setSingleShot(true);
+    QObject::connect(&limite, &QTimer::timeout, [] { QCoreApplication::exit(99); });
+    limite.start(3000);
+    return QCoreApplication::exec();
+}
+
+// Runs `accion` on the next modal window to open, if one opens within 2 s;
+// the watch ends with it, or when its timer is deleted.
+QTimer *CuandoModal(std::function<void(QWidget *)> accion)
+{
+    auto *reloj = new QTimer;
+    QPointer<QWidget> antes = QApplication::activeModalWidget();
+    QObject::connect(reloj, &QTimer::timeout, [reloj, accion, antes, plazo = QDeadlineTimer(2000)] {
+        QWidget *m = QApplication::activeModalWidget();
+        const bool abierta = m && m != antes && m->isVisible();
+        if (abierta || plazo.hasExpired()) {
+            reloj->stop();
+            reloj->deleteLater();
+        }
+        if (abierta)
+            accion(m);
+    });
+    reloj->start(0);
+    return reloj;
+}
 
 QString Accesible(QWidget *w)
 {
@@ -179,7 +212,7 @@ class Guion {
                 v.push_back(x == "1-" ? kCasiUno : x.toFloat());
             if (!azar_)
                 azar_ = std::make_unique<AzarGuionado>();
-            azar_->Agrega(v);
+            azar_->valores.insert(azar_->valores.end(), v.begin(), v.end());
         } else if (orden == "start" || orden == "main") {
             Main();
             if (ingles_)

@@ -47,7 +47,7 @@ TEST_F(Programa, EveryWindowAsDesigned)
 TEST_F(Programa, TheMainWindowSeedsTheGeneratorFromTheClock)
 {
     const float antes = SegundosDesdeMedianoche();
-    Arranca(false);
+    Ejecuta({"start"}, false);
     const float x = Azar().Rnd();
     const auto sembrado = [](float segundos) {
         GeneradorAzar g;
