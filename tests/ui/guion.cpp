@@ -14,46 +14,14 @@
 #include <QRadioButton>
 #include <QStyle>
 #include <QTest>
+#include <QThread>
 #include <QTimer>
 
 #include <cmath>
-#include <functional>
 #include <map>
 #include <memory>
 
 namespace {
-
-// Runs the event loop with `accion` as its first event and returns its exit
-// code once the program ends by itself (99 if it has not within 3 seconds).
-int CorreHastaElFin(const std::function<void()> &accion)
-{
-    QTimer::singleShot(0, accion);
-    QTimer limite;
-    limite.setSingleShot(true);
-    QObject::connect(&limite, &QTimer::timeout, [] { QCoreApplication::exit(99); });
-    limite.start(3000);
-    return QCoreApplication::exec();
-}
-
-// Runs `accion` on the next modal window to open, if one opens within 2 s;
-// the watch ends with it, or when its timer is deleted.
-QTimer *CuandoModal(std::function<void(QWidget *)> accion)
-{
-    auto *reloj = new QTimer;
-    QPointer<QWidget> antes = QApplication::activeModalWidget();
-    QObject::connect(reloj, &QTimer::timeout, [reloj, accion, antes, plazo = QDeadlineTimer(2000)] {
-        QWidget *m = QApplication::activeModalWidget();
-        const bool abierta = m && m != antes && m->isVisible();
-        if (abierta || plazo.hasExpired()) {
-            reloj->stop();
-            reloj->deleteLater();
-        }
-        if (abierta)
-            accion(m);
-    });
-    reloj->start(0);
-    return reloj;
-}
 
 QString Accesible(QWidget *w)
 {
@@ -116,38 +84,55 @@ void BienVisible(QWidget *ventana)
     }
 }
 
+// Runs one line per turn of whichever event loop is running, so that the
+// lines after one that opens a dialog run inside it. A line's indent, two
+// spaces a level, is the depth of the modal window it is for: a line waits
+// until its window opens, or until the ones above it have closed and the
+// code that opened them has finished.
 class Guion {
   public:
-    explicit Guion(bool ingles) : ingles_(ingles) {}
+    Guion(bool ingles, QStringList lineas) : ingles_(ingles), lineas_(std::move(lineas)) {}
 
-    void Corre(QStringList lineas)
+    void Corre()
     {
-        while (!lineas.isEmpty() && !::testing::Test::HasFatalFailure()) {
-            const QString linea = lineas.takeFirst();
-            QStringList p = linea.split(' ', Qt::SkipEmptyParts);
-            if (p.isEmpty() || p[0].startsWith('#'))
-                continue;
-            if (p[0].startsWith('@') && p.takeFirst() != (Idioma == kIngles ? "@en" : "@es"))
-                continue;
-            SCOPED_TRACE(linea.toStdString());
-            const QString orden = p.takeFirst();
-            const QPointer<QTimer> armado = mensaje_;
-            if (orden == "menu") { // the indented lines after it run in the dialog it opens
-                QStringList dentro;
-                while (!lineas.isEmpty() && lineas.first().startsWith(' '))
-                    dentro << lineas.takeFirst();
-                Menu(p.value(0), dentro);
-            } else {
-                Paso(orden, p, linea.section('|', 1, 1));
-            }
-            if (armado && armado == mensaje_) { // the step after "message" showed none
-                delete armado;
-                ADD_FAILURE() << "no message box";
-            }
-        }
+        QTimer::singleShot(0, &vida_, [this] { Siguiente(); });
+        while (!lineas_.isEmpty()) // each run of the loop ends with the script or the program
+            salida_ = QCoreApplication::exec();
     }
 
   private:
+    void Siguiente()
+    {
+        const QString linea = lineas_.value(0);
+        QStringList p = linea.split(' ', Qt::SkipEmptyParts);
+        const int nivel = QThread::currentThread()->loopLevel();
+        const int profundidad = int(linea.size() - linea.trimmed().size()) / 2 + 1;
+        const bool fin = p.value(0) == "ended" && salida_ < 0; // the loop has yet to end
+        if (nivel <= ocupado_ || (!p.isEmpty() && nivel != profundidad) || fin) {
+            if (!plazo_.hasExpired())
+                return QTimer::singleShot(0, &vida_, [this] { Siguiente(); });
+            ADD_FAILURE() << "waited 2 s for a window to open or close at: " << qPrintable(linea);
+            lineas_.clear();
+            return QCoreApplication::exit(1);
+        }
+        plazo_ = QDeadlineTimer(2000);
+        lineas_.removeFirst();
+        if (!lineas_.isEmpty()) // queued first: it may run in a dialog this line opens
+            QTimer::singleShot(0, &vida_, [this] { Siguiente(); });
+        const int antes = std::exchange(ocupado_, nivel);
+        if (!p.isEmpty() && !p[0].startsWith('#') &&
+            (!p[0].startsWith('@') || p.takeFirst() == (Idioma == kIngles ? "@en" : "@es"))) {
+            SCOPED_TRACE(linea.toStdString());
+            const QString orden = p.takeFirst();
+            Paso(orden, p, linea.section('|', 1, 1));
+        }
+        ocupado_ = antes;
+        if (::testing::Test::HasFatalFailure())
+            lineas_.clear();
+        if (lineas_.isEmpty())
+            QCoreApplication::exit(0);
+    }
+
     // A text of textos.txt in the language in force ("_" is empty), followed
     // by what comes after a "+"; a word that is no key stands for itself.
     QString Texto(const QString &clave) const
@@ -173,40 +158,22 @@ class Guion {
     QRadioButton *Opcion(int i) const { return Delante()->findChildren<QRadioButton *>().at(i); }
     QLineEdit *Caja(int i) const { return Delante()->findChildren<QLineEdit *>().at(i); }
 
-    // Triggers a menu command; a dialog opens exactly when lines are given
-    // for it, and they must close it.
-    void Menu(const QString &item, const QStringList &dentro)
-    {
-        using V = ui::VentanaPrincipal;
-        static const std::map<QString, QAction *V::*> items = {
-            {"1vs2", &V::mnu1vs2},
-            {"vspc", &V::mnuvspc},
-            {"level", &V::mnuNivel},
-            {"names", &V::mnuoponentes},
-            {"about", &V::mnuacerca},
-            {"exit", &V::mnuSalir},
-            {"language", &V::mnuSeleccionIdioma}};
-        bool abierto = false;
-        const QPointer<QTimer> vigia = CuandoModal([&](QWidget *w) {
-            abierto = true;
-            const QPointer<QWidget> vivo = w;
-            Corre(dentro);
-            if (vivo && vivo->isVisible()) {
-                ADD_FAILURE() << "left open";
-                vivo->close();
-            }
-        });
-        (Form1().*items.at(item))->trigger();
-        delete vigia;
-        EXPECT_EQ(abierto, !dentro.isEmpty()) << "a dialog opened, or did not";
-    }
-
     // `texto` is what stands between the bars of the line, spaces and all.
     void Paso(const QString &orden, const QStringList &p, const QString &texto)
     {
         const QString resto = p.join(' ');
         const int n = p.value(0).toInt();
-        if (orden == "draws") {
+        using V = ui::VentanaPrincipal;
+        static const std::map<QString, QAction *V::*> menu = {{"1vs2", &V::mnu1vs2},
+                                                              {"vspc", &V::mnuvspc},
+                                                              {"level", &V::mnuNivel},
+                                                              {"names", &V::mnuoponentes},
+                                                              {"about", &V::mnuacerca},
+                                                              {"exit", &V::mnuSalir},
+                                                              {"language", &V::mnuSeleccionIdioma}};
+        if (orden == "menu") {
+            (Form1().*menu.at(resto))->trigger();
+        } else if (orden == "draws") {
             std::vector<float> v;
             for (const QString &x : p)
                 v.push_back(x == "1-" ? kCasiUno : x.toFloat());
@@ -249,17 +216,6 @@ class Guion {
                 Activa();
             w->setFocus();
             QTest::keyClick(w, QKeySequence::fromString(p.value(0))[0].key());
-        } else if (orden == "message") { // armed for the action on the next line
-            mensaje_ = CuandoModal([this, clave = p.value(0)](QWidget *w) {
-                mensaje_ = nullptr;
-                auto *m = qobject_cast<QMessageBox *>(w);
-                ASSERT_NE(m, nullptr);
-                EXPECT_EQ(m->icon(), QMessageBox::Information);
-                EXPECT_EQ(m->buttons().size(), 1);
-                EXPECT_EQ(m->windowTitle(), Texto("msgTitulo"));
-                EXPECT_EQ(m->text(), Texto(clave));
-                m->accept();
-            });
         } else if (orden == "theme") { // dark: light text on dark grounds
             QPalette oscuro = QApplication::palette();
             for (auto [rol, color] : {std::pair{QPalette::Window, QColor(40, 40, 40)},
@@ -270,9 +226,6 @@ class Guion {
                                       {QPalette::ButtonText, QColor(230, 230, 230)}})
                 oscuro.setColor(rol, color);
             QApplication::setPalette(oscuro);
-        } else if (orden == "quit") { // the program ends by itself
-            EXPECT_EQ(CorreHastaElFin([&] { Corre({resto}); }), 0);
-            EXPECT_FALSE(Form1.Existe());
         } else {
             Mira(orden, p, resto, texto);
         }
@@ -281,7 +234,16 @@ class Guion {
     void Mira(const QString &orden, const QStringList &p, const QString &resto,
               const QString &texto)
     {
-        if (orden == "board") { // as a screen reader reads the squares
+        if (orden == "said") { // the message box in front
+            auto *m = qobject_cast<QMessageBox *>(Delante());
+            ASSERT_NE(m, nullptr);
+            EXPECT_TRUE(m->icon() == QMessageBox::Information && m->buttons().size() == 1);
+            EXPECT_EQ(m->windowTitle(), Texto("msgTitulo"));
+            EXPECT_EQ(m->text(), Texto(resto));
+        } else if (orden == "ended") { // the program, by itself, since the last line
+            EXPECT_EQ(std::exchange(salida_, -1), 0);
+            EXPECT_FALSE(Form1.Existe());
+        } else if (orden == "board") { // as a screen reader reads the squares
             QString s;
             for (QPushButton *b : Form1().cmdtir) {
                 const QString marca = Accesible(b).section(": ", 1);
@@ -347,13 +309,17 @@ class Guion {
     }
 
     bool ingles_;
+    QStringList lineas_;
+    QObject vida_; // the queued lines die with the script
+    QDeadlineTimer plazo_{2000};
+    int ocupado_ = 0; // the loop level of the line running
+    int salida_ = -1; // how the last run of the loop ended
     std::unique_ptr<AzarGuionado> azar_;
-    QPointer<QTimer> mensaje_;
 };
 
 } // namespace
 
 void Ejecuta(const QStringList &lineas, bool ingles)
 {
-    Guion(ingles).Corre(lineas);
+    Guion(ingles, lineas).Corre();
 }
