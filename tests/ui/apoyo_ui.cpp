@@ -10,16 +10,11 @@
 #include <QTest>
 #include <QTimer>
 
-#include <map>
-
 void ReiniciaPrograma()
 {
-    // Deleting one window may take others with it: hold them by QPointer.
-    QList<QPointer<QWidget>> ventanas;
-    for (QWidget *w : QApplication::topLevelWidgets())
-        ventanas.append(w);
-    for (const QPointer<QWidget> &w : ventanas)
-        delete w.data();
+    // Deleting one window may take others with it: ask again after each.
+    while (!QApplication::topLevelWidgets().isEmpty())
+        delete QApplication::topLevelWidgets().first();
     // A turn of the loop consumes pending deletions and quit requests.
     QTimer::singleShot(0, [] { QCoreApplication::exit(0); });
     QCoreApplication::exec();
@@ -31,18 +26,12 @@ void ReiniciaPrograma()
 
 QStringList Datos(const std::string &clave, const std::string &modo)
 {
-    static const auto tabla = [] {
-        std::multimap<std::string, QString> t;
-        for (const std::string &linea : Filas("textos.txt")) {
-            const auto b = linea.find(' ', linea.find(' ') + 1);
-            t.emplace(linea.substr(0, b), QString::fromStdString(linea.substr(b + 1)));
-        }
-        return t;
-    }();
+    static const std::vector<std::string> filas = Filas("textos.txt");
+    const std::string prefijo = clave + ' ' + modo + ' ';
     QStringList valores;
-    const auto [desde, hasta] = tabla.equal_range(clave + ' ' + modo);
-    for (auto i = desde; i != hasta; ++i)
-        valores << i->second;
+    for (const std::string &linea : filas)
+        if (linea.rfind(prefijo, 0) == 0)
+            valores << QString::fromStdString(linea.substr(prefijo.size()));
     return valores;
 }
 
@@ -75,20 +64,19 @@ QString Describe(QWidget *w)
             s += " | " + (a->isSeparator() ? "-" : a->text()) +
                  (a->isCheckable() ? a->isChecked() ? " [x]" : " [ ]" : "") +
                  (a->isEnabled() ? "" : " [-]");
-        return s;
-    }
-    if (auto *r = qobject_cast<QRadioButton *>(w))
+    } else if (auto *r = qobject_cast<QRadioButton *>(w)) {
         s = r->text() + (r->isChecked() ? " (*)" : "");
-    else if (auto *b = qobject_cast<QPushButton *>(w))
+    } else if (auto *b = qobject_cast<QPushButton *>(w)) {
         s = b->text() + (b->isEnabled() ? "" : " [-]");
-    else if (auto *l = qobject_cast<QLabel *>(w))
+    } else if (auto *l = qobject_cast<QLabel *>(w)) {
         s = QString(l->text()).replace("\n", "\\n");
-    else if (auto *e = qobject_cast<QLineEdit *>(w))
+    } else if (auto *e = qobject_cast<QLineEdit *>(w)) {
         s = QStringLiteral("[%1]").arg(e->maxLength()) + e->text();
-    else if (qobject_cast<QFrame *>(w))
+    } else if (qobject_cast<QFrame *>(w)) {
         s = QStringLiteral("[panel]");
-    else
+    } else {
         return {};
+    }
     return (s.isEmpty() ? QStringLiteral("_") : s) + Fondo(w);
 }
 
@@ -100,14 +88,8 @@ QStringList Textos(QWidget *v, bool lugar)
     QStringList t{v->windowTitle() + Fondo(v) + (fija ? QStringLiteral(" fixed") : QString())};
     for (QWidget *w : v->findChildren<QWidget *>()) {
         QString s = Describe(w);
-        if (lugar && !s.isEmpty() && !qobject_cast<QMenu *>(w)) {
-            const QRect g = w->geometry();
-            s += QStringLiteral(" @%1,%2,%3,%4")
-                     .arg(g.x())
-                     .arg(g.y())
-                     .arg(g.width())
-                     .arg(g.height());
-        }
+        if (lugar && !s.isEmpty() && !qobject_cast<QMenu *>(w))
+            s += QString::asprintf(" @%d,%d,%d,%d", w->x(), w->y(), w->width(), w->height());
         if (!s.isEmpty())
             t << s;
     }

@@ -18,7 +18,6 @@
 #include <QTimer>
 
 #include <cmath>
-#include <map>
 #include <memory>
 
 namespace {
@@ -163,23 +162,15 @@ class Guion {
     {
         const QString resto = p.join(' ');
         const int n = p.value(0).toInt();
-        using V = ui::VentanaPrincipal;
-        static const std::map<QString, QAction *V::*> menu = {{"1vs2", &V::mnu1vs2},
-                                                              {"vspc", &V::mnuvspc},
-                                                              {"level", &V::mnuNivel},
-                                                              {"names", &V::mnuoponentes},
-                                                              {"about", &V::mnuacerca},
-                                                              {"exit", &V::mnuSalir},
-                                                              {"language", &V::mnuSeleccionIdioma}};
-        if (orden == "menu") {
-            (Form1().*menu.at(resto))->trigger();
+        if (orden == "menu") { // the items in the order the menu lists them
+            const QStringList items{"1vs2",  "vspc",     "-",     "level",
+                                    "names", "language", "about", "exit"};
+            Form1().mnuOpciones->actions().at(items.indexOf(resto))->trigger();
         } else if (orden == "draws") {
-            std::vector<float> v;
-            for (const QString &x : p)
-                v.push_back(x == "1-" ? kCasiUno : x.toFloat());
             if (!azar_)
                 azar_ = std::make_unique<AzarGuionado>();
-            azar_->valores.insert(azar_->valores.end(), v.begin(), v.end());
+            for (const QString &x : p)
+                azar_->valores.push_back(x == "1-" ? kCasiUno : x.toFloat());
         } else if (orden == "start" || orden == "main") {
             Main();
             if (ingles_)
@@ -217,24 +208,8 @@ class Guion {
             w->setFocus();
             QTest::keyClick(w, QKeySequence::fromString(p.value(0))[0].key());
         } else if (orden == "theme") { // dark: light text on dark grounds
-            QPalette oscuro = QApplication::palette();
-            for (auto [rol, color] : {std::pair{QPalette::Window, QColor(40, 40, 40)},
-                                      {QPalette::Base, QColor(25, 25, 25)},
-                                      {QPalette::Button, QColor(55, 55, 55)},
-                                      {QPalette::WindowText, QColor(230, 230, 230)},
-                                      {QPalette::Text, QColor(235, 235, 235)},
-                                      {QPalette::ButtonText, QColor(230, 230, 230)}})
-                oscuro.setColor(rol, color);
-            QApplication::setPalette(oscuro);
-        } else {
-            Mira(orden, p, resto, texto);
-        }
-    }
-
-    void Mira(const QString &orden, const QStringList &p, const QString &resto,
-              const QString &texto)
-    {
-        if (orden == "said") { // the message box in front
+            QApplication::setPalette(QPalette(QColor(55, 55, 55), QColor(40, 40, 40)));
+        } else if (orden == "said") { // the message box in front
             auto *m = qobject_cast<QMessageBox *>(Delante());
             ASSERT_NE(m, nullptr);
             EXPECT_TRUE(m->icon() == QMessageBox::Information && m->buttons().size() == 1);
