@@ -105,7 +105,7 @@ class Guion {
         const QString linea = lineas_.value(0);
         QStringList p = linea.split(' ', Qt::SkipEmptyParts);
         const int nivel = QThread::currentThread()->loopLevel();
-        const int profundidad = int(linea.size() - linea.trimmed().size()) / 2 + 1;
+        const int profundidad = int(linea.indexOf(p.value(0))) / 2 + 1;
         const bool fin = p.value(0) == "ended" && salida_ < 0; // the loop has yet to end
         if (nivel <= ocupado_ || (!p.isEmpty() && nivel != profundidad) || fin) {
             if (!plazo_.hasExpired())
