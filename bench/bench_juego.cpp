@@ -6,39 +6,25 @@
 
 #include <benchmark/benchmark.h>
 
-#include <set>
-#include <string>
 #include <vector>
 
 namespace {
 
-// Every distinct position with the computer to move that play against the
-// level reaches, whoever opens, whatever the person plays and the computer draws.
-std::vector<Board> PosicionesPC(Integer nivel)
+// Every position a game can reach with the computer to move, whoever opened:
+// as many marks of each, or one more "X", no line and a free cell.
+std::vector<Board> PosicionesPC()
 {
-    std::vector<Board> pendientes{Board{}};
-    for (std::size_t k = 0; k < 9; ++k) {
-        Board b;
-        b.celda[k] = kEquis;
-        pendientes.push_back(b);
-    }
     std::vector<Board> salida;
-    std::set<std::string> vistas;
-    Nivel = nivel;
-    while (!pendientes.empty()) {
-        const Board b = pendientes.back();
-        pendientes.pop_back();
-        if (HayGanador(b) || TableroLleno(b) || !vistas.insert(ComoTexto(b)).second)
-            continue;
-        salida.push_back(b);
-        for (const Respuesta &r : RespuestasPC(b))
-            if (!HayGanador(r.tablero) && !TableroLleno(r.tablero))
-                for (std::size_t k = 0; k < 9; ++k)
-                    if (r.tablero.celda[k] == kVacia) {
-                        Board siguiente = r.tablero;
-                        siguiente.celda[k] = kEquis;
-                        pendientes.push_back(siguiente);
-                    }
+    for (int n = 0; n < 19683; ++n) {
+        Board b;
+        int equis = 0, ceros = 0;
+        for (int k = 0, resto = n; k < 9; ++k, resto /= 3) {
+            b.celda[k] = static_cast<Integer>(resto % 3);
+            equis += b.celda[k] == kEquis;
+            ceros += b.celda[k] == kCero;
+        }
+        if ((equis == ceros || equis == ceros + 1) && !HayGanador(b) && !TableroLleno(b))
+            salida.push_back(b);
     }
     return salida;
 }
@@ -46,7 +32,7 @@ std::vector<Board> PosicionesPC(Integer nivel)
 void BM_MovimientoPC(benchmark::State &state)
 {
     const auto nivel = static_cast<Integer>(state.range(0));
-    const std::vector<Board> posiciones = PosicionesPC(nivel);
+    const std::vector<Board> posiciones = PosicionesPC();
     Nivel = nivel;
     for (auto _ : state)
         for (const Board &p : posiciones) {

@@ -6,39 +6,6 @@
 
 #include <algorithm>
 
-namespace {
-
-// Each draw of the computer's is a choice of n, made by floor(n * x): the
-// script (k + 0.5) / n takes branch k.
-void Ramifica(const Board &inicio, std::vector<float> guion, double prob,
-              std::vector<Respuesta> &salida)
-{
-    Board b = inicio;
-    std::vector<Integer> tamanos;
-    {
-        AzarGuionado azar(guion);
-        MovimientoPC(b);
-        tamanos = azar.tamanos;
-    }
-    if (tamanos.size() <= guion.size())
-        return salida.push_back({b, prob});
-    const Integer n = tamanos[guion.size()];
-    guion.push_back(0);
-    for (Integer k = 0; k < n; ++k) {
-        guion.back() = (float(k) + 0.5f) / float(n);
-        Ramifica(inicio, guion, prob / n, salida);
-    }
-}
-
-} // namespace
-
-std::vector<Respuesta> RespuestasPC(const Board &tablero)
-{
-    std::vector<Respuesta> salida;
-    Ramifica(tablero, {}, 1.0, salida);
-    return salida;
-}
-
 double Analisis::AlMover(const Board &tablero)
 {
     const auto [memo, nuevo] = memo_.try_emplace(ComoTexto(tablero), 0.0);
@@ -51,16 +18,30 @@ double Analisis::AlMover(const Board &tablero)
     return memo->second;
 }
 
-double Analisis::TrasJugada(const Board &tablero)
+// `guion` takes the computer's first draws down one branch: each draw is a
+// choice of n made by floor(n * x), and (k + 0.5) / n takes branch k.
+double Analisis::TrasJugada(const Board &tablero, std::vector<float> guion)
 {
     if (HayGanador(tablero))
         return 1.0;
     if (TableroLleno(tablero))
         return 0.0;
     Nivel = nivel_;
+    Board b = tablero;
+    std::vector<Integer> tamanos;
+    {
+        AzarGuionado azar(guion);
+        MovimientoPC(b);
+        tamanos = azar.tamanos;
+    }
+    if (tamanos.size() <= guion.size())
+        return HayGanador(b) || TableroLleno(b) ? 0.0 : AlMover(b);
+    const Integer n = tamanos[guion.size()];
     double valor = 0.0;
-    for (const Respuesta &r : RespuestasPC(tablero))
-        if (!HayGanador(r.tablero) && !TableroLleno(r.tablero))
-            valor += r.probabilidad * AlMover(r.tablero);
+    guion.push_back(0);
+    for (Integer k = 0; k < n; ++k) {
+        guion.back() = (float(k) + 0.5f) / float(n);
+        valor += TrasJugada(tablero, guion) / n;
+    }
     return valor;
 }

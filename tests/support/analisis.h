@@ -8,14 +8,6 @@
 #include <string>
 #include <vector>
 
-struct Respuesta {
-    Board tablero; // the board after the computer's move
-    double probabilidad;
-};
-
-// MovimientoPC's answer down every branch of its draws, at the current Nivel.
-std::vector<Respuesta> RespuestasPC(const Board &tablero);
-
 // The person's best chance to win against one level, playing "X".
 class Analisis {
   public:
@@ -23,7 +15,7 @@ class Analisis {
     // The person is to move on `tablero`.
     double AlMover(const Board &tablero);
     // The computer answers next on `tablero` (on the empty board: it opens).
-    double TrasJugada(const Board &tablero);
+    double TrasJugada(const Board &tablero, std::vector<float> guion = {});
 
   private:
     Integer nivel_;
