@@ -41,9 +41,7 @@ std::vector<std::string> Filas(const std::string &archivo)
 void BorraEstado()
 {
     LimpiaTablero(Tablero);
-    Jugando = false;
+    Jugando = DesdeMenu = false;
     Nivel = Modo = Turno = Idioma = 0;
-    Jugador1.clear();
-    Jugador2.clear();
-    DesdeMenu = false;
+    Jugador1 = Jugador2 = "";
 }
