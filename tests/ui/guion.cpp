@@ -148,11 +148,6 @@ class Guion {
             return m;
         return frmSeleccion.Existe() ? static_cast<QWidget *>(&frmSeleccion()) : &Form1();
     }
-    void Activa() const
-    {
-        Delante()->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(Delante()));
-    }
     QAbstractButton *Boton(int i) const { return Delante()->findChildren<QPushButton *>().at(i); }
     QRadioButton *Opcion(int i) const { return Delante()->findChildren<QRadioButton *>().at(i); }
     QLineEdit *Caja(int i) const { return Delante()->findChildren<QLineEdit *>().at(i); }
@@ -186,10 +181,8 @@ class Guion {
             Clic(Boton(orden == "ok" ? 0 : 1));
         } else if (orden == "opt") {
             Clic(Opcion(n));
-        } else if (orden == "toggle") { // the option not selected
-            for (QRadioButton *o : Delante()->findChildren<QRadioButton *>())
-                if (!o->isChecked())
-                    return Clic(o);
+        } else if (orden == "toggle") { // the other of two options
+            Clic(Opcion(Opcion(0)->isChecked() ? 1 : 0));
         } else if (orden == "close") {
             Delante()->close();
         } else if (orden == "type") {
@@ -203,16 +196,15 @@ class Guion {
             QWidget *w = p.value(1) == "box"   ? Caja(p.value(2).toInt())
                          : p.value(1) == "opt" ? Opcion(p.value(2).toInt())
                                                : Delante();
-            if (p.value(1) == "opt") // arrows move from the focus widget of the active window
-                Activa();
+            Delante()->activateWindow(); // arrows move from the focus of the active window
+            ASSERT_TRUE(QTest::qWaitForWindowActive(Delante()));
             w->setFocus();
             QTest::keyClick(w, QKeySequence::fromString(p.value(0))[0].key());
         } else if (orden == "theme") { // dark: light text on dark grounds
             QApplication::setPalette(QPalette(QColor(55, 55, 55), QColor(40, 40, 40)));
         } else if (orden == "said") { // the message box in front
             auto *m = qobject_cast<QMessageBox *>(Delante());
-            ASSERT_NE(m, nullptr);
-            EXPECT_TRUE(m->icon() == QMessageBox::Information && m->buttons().size() == 1);
+            ASSERT_TRUE(m && m->icon() == QMessageBox::Information && m->buttons().size() == 1);
             EXPECT_EQ(m->windowTitle(), Texto("msgTitulo"));
             EXPECT_EQ(m->text(), Texto(resto));
         } else if (orden == "ended") { // the program, by itself, since the last line
@@ -246,7 +238,8 @@ class Guion {
         } else if (orden == "tabs") { // what a screen reader hears at the focus, then at each Tab
             const QStringList esperado = Datos(resto.toStdString(), "tab");
             QStringList oido;
-            Activa();
+            Delante()->activateWindow();
+            ASSERT_TRUE(QTest::qWaitForWindowActive(Delante()));
             while (oido.size() < esperado.size()) {
                 oido << Accesible(QApplication::focusWidget());
                 QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
