@@ -1,15 +1,5 @@
 #include "apoyo_ui.h"
 
-#include "estado.h"
-
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTest>
-#include <QTimer>
-
 void ReiniciaPrograma()
 {
     // Deleting one window may take others with it: ask again after each.

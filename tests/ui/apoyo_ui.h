@@ -4,10 +4,11 @@
 // player does and sees (tests/datos/guiones.txt).
 
 #include "apoyo.h"
+#include "estado.h"
 #include "formularios.h"
 
-#include <QAbstractButton>
-#include <QApplication>
+#include <QtTest>
+#include <QtWidgets>
 
 #include <gtest/gtest.h>
 

@@ -2,21 +2,6 @@
 // action on the window in front or a check of what it shows.
 #include "apoyo_ui.h"
 
-#include "estado.h"
-
-#include <QAccessible>
-#include <QDeadlineTimer>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QStyle>
-#include <QTest>
-#include <QThread>
-#include <QTimer>
-
 #include <cmath>
 #include <memory>
 

@@ -4,17 +4,9 @@
 // thousands of windows opened and closed on the way must leave none behind
 // (and LeakSanitizer, in the sanitizer build, no memory).
 #include "apoyo_ui.h"
-#include "estado.h"
 #include "idioma.h"
 
-#include <QLineEdit>
-#include <QMenu>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QTest>
-#include <QTimer>
-
-#include <array>
+#include <algorithm>
 #include <random>
 
 namespace {
@@ -38,6 +30,7 @@ class Jugador {
 
   private:
     int Dado(int n) { return std::uniform_int_distribution<int>(0, n - 1)(g_); }
+    template <class T> T Una(const QList<T> &lista) { return lista[Dado(int(lista.size()))]; }
 
     // One action on the window in front; the next is queued first, so that
     // it runs inside a dialog this one opens.
@@ -61,31 +54,24 @@ class Jugador {
         if (agotado || Dado(100) == 0) // the title bar's close; the main window's ends the program
             return v->close(), void();
         const int d = Dado(100);
-        if (principal && d >= 60) {
-            const QList<QAction *> items = Form1().mnuOpciones->actions();
-            return items[Dado(int(items.size()))]->trigger();
-        }
+        if (principal && d >= 60)
+            return Una(Form1().mnuOpciones->actions())->trigger();
         const QList<QLineEdit *> cajas = v->findChildren<QLineEdit *>();
-        if (!cajas.isEmpty() && d < 30)
-            return Escribe(cajas[Dado(int(cajas.size()))]);
+        if (!cajas.isEmpty() && d < 30) { // up to 20 characters added to a box, or to it emptied
+            const QString letras = QStringLiteral("abcAnaBeto  áéñÑüΩЖ中 "); // and other scripts
+            QLineEdit *caja = Una(cajas);
+            if (Dado(2))
+                caja->clear();
+            for (int n = Dado(21); n > 0; --n)
+                caja->insert(letras[Dado(int(letras.size()))]);
+            return;
+        }
         if (d < 40) {
             QWidget *w = v->focusWidget() ? v->focusWidget() : v;
             return QTest::keyClick(
-                w, std::array{Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter, Qt::Key_Up}[Dado(4)]);
+                w, Una(QList{Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter, Qt::Key_Up}));
         }
-        const auto botones = v->findChildren<QAbstractButton *>();
-        Clic(botones[Dado(int(botones.size()))]);
-    }
-
-    // Up to 20 characters added to what the box holds, or to it emptied:
-    // letters, accented and other scripts, spaces.
-    void Escribe(QLineEdit *caja)
-    {
-        static const QString letras = QStringLiteral("abcAnaBeto  áéñÑüΩЖ中 ");
-        if (Dado(2))
-            caja->clear();
-        for (int n = Dado(21); n > 0; --n)
-            caja->insert(letras[Dado(int(letras.size()))]);
+        Clic(Una(v->findChildren<QAbstractButton *>()));
     }
 
     void Verifica()
@@ -103,10 +89,10 @@ class Jugador {
         ASSERT_TRUE(nivel <= 1 && oponentes <= 1 &&
                     QApplication::topLevelWidgets().size() == 2 + nivel + oponentes);
         ui::VentanaPrincipal &f = Form1();
-        for (int k = 0; k < 9; ++k) {
-            const Integer v = Tablero(k % 3, k / 3);
-            ASSERT_EQ(f.cmdtir[k]->text(), v == kEquis ? "X" : v == kCero ? "0" : "") << k;
-        }
+        QString marcas;
+        for (QPushButton *b : f.cmdtir)
+            marcas += b->text().isEmpty() ? QStringLiteral(".") : b->text();
+        ASSERT_EQ(marcas.toStdString(), ComoTexto(Tablero));
         ASSERT_TRUE(Jugando != f.cmdnuevo->isEnabled() &&
                     Jugando == (!HayGanador(Tablero) && !TableroLleno(Tablero)));
         // The menu shows the mode in force, and offers what it allows.
@@ -143,8 +129,8 @@ TEST_P(Aleatorio, TenThousandActions)
     // The game's own draws, from the same seed.
     std::mt19937 g(GetParam());
     std::vector<float> valores(100000);
-    for (float &x : valores)
-        x = std::uniform_real_distribution<float>(0.0f, 1.0f)(g);
+    std::generate(valores.begin(), valores.end(),
+                  [&] { return std::uniform_real_distribution<float>()(g); });
     AzarGuionado azar(valores);
     Jugador(GetParam()).Corre(10000);
     EXPECT_EQ(azar.excedidas, 0);
