@@ -9,7 +9,6 @@
 #include <QKeyEvent>
 #include <QLayout>
 #include <QLibraryInfo>
-#include <QMainWindow>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
@@ -72,13 +71,7 @@ void CentraVentana(QWidget *w)
 {
     if (w->layout())
         w->adjustSize(); // a laid-out window knows its size only once adjusted
-    QRect sobre;
-    for (QWidget *t : QApplication::topLevelWidgets())
-        if (qobject_cast<QMainWindow *>(t) && t->isVisible() && t != w)
-            sobre = t->frameGeometry();
-    if (sobre.isNull())
-        sobre = (w->screen() ? w->screen() : QGuiApplication::primaryScreen())->availableGeometry();
-    w->move(sobre.center() - w->rect().center());
+    w->move(w->screen()->availableGeometry().center() - w->rect().center());
 }
 
 namespace {
@@ -88,7 +81,6 @@ void EstiloPanel(QFrame *panel, const QRect &geometria)
     panel->setGeometry(geometria);
     panel->setFrameStyle(QFrame::Panel | QFrame::Raised);
     panel->setLineWidth(2);
-    panel->setFocusPolicy(Qt::NoFocus);
     panel->setAutoFillBackground(true);
     QPalette p = panel->palette();
     p.setColor(QPalette::Window, QColor(236, 233, 216));

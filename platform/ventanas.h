@@ -35,8 +35,8 @@ QFont FuentePrograma(double puntos = 8.25, bool negrita = false);
 // while it has the focus.
 QPushButton *CreaBoton(QWidget *padre, const QString &texto, const QRect &geometria);
 
-// Centres a top-level window on the main window, or on its screen when the
-// main window is not shown.
+// Centres a top-level window on its screen. Only windows shown before the
+// main window use it: Qt centres a modal dialog over the active window.
 void CentraVentana(QWidget *w);
 
 // What every window of the program shares, on top of its Qt window class:

@@ -195,12 +195,11 @@ class Guion {
         } else if (orden == "ended") { // the program, by itself, since the last line
             EXPECT_EQ(std::exchange(salida_, -1), 0);
             EXPECT_FALSE(Form1.Existe());
-        } else if (orden == "board") { // as a screen reader reads the squares
+        } else if (orden == "board") { // as a screen reader reads the squares: X, 0 or empty
             QString s;
-            for (QPushButton *b : Form1().cmdtir) {
-                const QString marca = Accesible(b).section(": ", 1);
-                s += marca == "X" || marca == "0" ? marca : QStringLiteral(".");
-            }
+            for (QPushButton *b : Form1().cmdtir)
+                s +=
+                    Accesible(b).section(": ", 1).left(1).replace(QRegularExpression("[^X0]"), ".");
             EXPECT_EQ(s, resto);
         } else if (orden == "status") { // as a screen reader reads it
             EXPECT_EQ(Accesible(Form1().Panel), Texto(resto));
@@ -220,6 +219,11 @@ class Guion {
         } else if (orden == "shows") { // the window in front, as textos.txt has it
             EXPECT_EQ(Textos(Delante(), false),
                       Datos(resto.toStdString(), Idioma == kIngles ? "en" : "es"));
+        } else if (orden == "centred") { // a dialog over the main window, the rest on the screen
+            const bool sobre = QApplication::activeModalWidget() && Form1().isVisible();
+            const QRect r =
+                sobre ? Form1().frameGeometry() : Delante()->screen()->availableGeometry();
+            EXPECT_LE((Delante()->frameGeometry().center() - r.center()).manhattanLength(), 8);
         } else if (orden == "tabs") { // what a screen reader hears at the focus, then at each Tab
             const QStringList esperado = Datos(resto.toStdString(), "tab");
             QStringList oido;
