@@ -28,15 +28,11 @@ double Analisis::TrasJugada(const Board &tablero, std::vector<float> guion)
         return 0.0;
     Nivel = nivel_;
     Board b = tablero;
-    std::vector<Integer> tamanos;
-    {
-        AzarGuionado azar(guion);
-        MovimientoPC(b);
-        tamanos = azar.tamanos;
-    }
-    if (tamanos.size() <= guion.size())
+    AzarGuionado azar(guion); // in use for this one move: deeper moves install their own
+    MovimientoPC(b);
+    if (azar.tamanos.size() <= guion.size())
         return HayGanador(b) || TableroLleno(b) ? 0.0 : AlMover(b);
-    const Integer n = tamanos[guion.size()];
+    const Integer n = azar.tamanos[guion.size()];
     double valor = 0.0;
     guion.push_back(0);
     for (Integer k = 0; k < n; ++k) {

@@ -40,7 +40,8 @@ TEST_F(Programa, EveryWindowAsDesigned)
 
 TEST_F(Programa, TheMainWindowSeedsTheGeneratorFromTheClock)
 {
-    const float antes = SegundosDesdeMedianoche();
+    const float antes = SegundosDesdeMedianoche(); // the local time of day
+    EXPECT_NEAR(antes, QTime::currentTime().msecsSinceStartOfDay() / 1000, 2);
     Ejecuta({"start"}, false);
     const float x = Azar().Rnd();
     const auto sembrado = [](float segundos) {
