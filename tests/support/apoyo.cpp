@@ -1,7 +1,5 @@
 #include "apoyo.h"
 
-#include "estado.h"
-
 #include <fstream>
 
 Board DesdeTexto(const std::string &celdas)
@@ -36,12 +34,4 @@ std::vector<std::string> Filas(const std::string &archivo)
         if (!linea.empty() && linea[0] != '#')
             filas.push_back(linea);
     return filas;
-}
-
-void BorraEstado()
-{
-    LimpiaTablero(Tablero);
-    Jugando = DesdeMenu = false;
-    Nivel = Modo = Turno = Idioma = 0;
-    Jugador1 = Jugador2 = "";
 }

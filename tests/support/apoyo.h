@@ -35,6 +35,3 @@ constexpr float kCasiMedio = 0.49999997f;
 
 // The lines of a file of tests/datos that are neither empty nor comments.
 std::vector<std::string> Filas(const std::string &archivo);
-
-// Every variable of the game state back to zero, False or empty, as before Main.
-void BorraEstado();

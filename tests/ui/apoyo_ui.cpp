@@ -8,7 +8,11 @@ void ReiniciaPrograma()
     // A turn of the loop consumes pending deletions and quit requests.
     QTimer::singleShot(0, [] { QCoreApplication::exit(0); });
     QCoreApplication::exec();
-    BorraEstado();
+    // The game state as before Main: zero, False or empty.
+    LimpiaTablero(Tablero);
+    Jugando = DesdeMenu = false;
+    Nivel = Modo = Turno = Idioma = 0;
+    Jugador1 = Jugador2 = "";
     UsaFuenteAzar(nullptr);
     static const QPalette tema = QApplication::palette();
     QApplication::setPalette(tema);
@@ -75,7 +79,10 @@ QString Describe(QWidget *w)
 QStringList Textos(QWidget *v, bool lugar)
 {
     const bool fija = v->minimumSize() == v->maximumSize();
-    QStringList t{v->windowTitle() + Fondo(v) + (fija ? QStringLiteral(" fixed") : QString())};
+    auto *principal = qobject_cast<QMainWindow *>(v);
+    const QSize cliente = principal ? principal->centralWidget()->size() : v->size();
+    QStringList t{v->windowTitle() + Fondo(v) + (fija ? QStringLiteral(" fixed") : QString()) +
+                  (lugar ? QString::asprintf(" %dx%d", cliente.width(), cliente.height()) : "")};
     for (QWidget *w : v->findChildren<QWidget *>()) {
         QString s = Describe(w);
         if (lugar && !s.isEmpty() && !qobject_cast<QMenu *>(w))

@@ -171,7 +171,7 @@ class Guion {
         } else if (orden == "close") {
             Delante()->close();
         } else if (orden == "type") {
-            for (QChar c : texto) {
+            for (QChar c : texto) { // a key per character, whatever its script
                 QKeyEvent tecla(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QString(c));
                 QApplication::sendEvent(Caja(n), &tecla);
             }
@@ -189,7 +189,8 @@ class Guion {
             QApplication::setPalette(QPalette(QColor(55, 55, 55), QColor(40, 40, 40)));
         } else if (orden == "said") { // the message box in front
             auto *m = qobject_cast<QMessageBox *>(Delante());
-            ASSERT_TRUE(m && m->icon() == QMessageBox::Information && m->buttons().size() == 1);
+            ASSERT_TRUE(m && m->icon() == QMessageBox::Information && m->buttons().size() == 1 &&
+                        !m->windowIcon().isNull());
             EXPECT_EQ(m->windowTitle(), Texto("msgTitulo"));
             EXPECT_EQ(m->text(), Texto(resto));
         } else if (orden == "ended") { // the program, by itself, since the last line

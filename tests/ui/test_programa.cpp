@@ -3,6 +3,8 @@
 // designed, as tests/datos/textos.txt lists them.
 #include "apoyo_ui.h"
 
+#include <set>
+
 TEST_F(Programa, EveryScriptInBothLanguages)
 {
     std::vector<std::pair<std::string, QStringList>> guiones;
@@ -33,8 +35,10 @@ TEST_F(Programa, EveryWindowAsDesigned)
         EXPECT_EQ(Textos(w, true), Datos(clave, "design")) << clave;
         EXPECT_TRUE(w->windowIcon().availableSizes().contains(QSize(32, 32))) << clave;
         // Drawn in its colours, not blank or flat.
-        const QImage icono = w->windowIcon().pixmap(32).toImage();
-        EXPECT_GE(icono.convertToFormat(QImage::Format_Indexed8).colorCount(), 4) << clave;
+        const QImage icono =
+            w->windowIcon().pixmap(32).toImage().convertToFormat(QImage::Format_ARGB32);
+        const auto *p = reinterpret_cast<const QRgb *>(icono.constBits());
+        EXPECT_GE(std::set<QRgb>(p, p + icono.width() * icono.height()).size(), 4u) << clave;
     }
 }
 
