@@ -96,11 +96,11 @@ class Guion {
         if (nivel <= ocupado_ || nivel != linea.indexOf(p[0]) / 2 + 1 || fin) {
             if (!plazo_.hasExpired())
                 return QTimer::singleShot(0, &vida_, [this] { Siguiente(); });
-            ADD_FAILURE() << "waited 2 s for a window to open or close at: " << qPrintable(linea);
+            ADD_FAILURE() << "waited 5 s for a window to open or close at: " << qPrintable(linea);
             lineas_.clear();
             return QCoreApplication::exit(1);
         }
-        plazo_ = QDeadlineTimer(2000);
+        plazo_ = QDeadlineTimer(5000);
         lineas_.removeFirst();
         if (!lineas_.isEmpty()) // queued first: it may run in a dialog this line opens
             QTimer::singleShot(0, &vida_, [this] { Siguiente(); });
@@ -265,7 +265,7 @@ class Guion {
     bool ingles_;
     QStringList lineas_;
     QObject vida_; // the queued lines die with the script
-    QDeadlineTimer plazo_{2000};
+    QDeadlineTimer plazo_{5000};
     int ocupado_ = 0; // the loop level of the line running
     int salida_ = -1; // how the last run of the loop ended
     std::unique_ptr<AzarGuionado> azar_;
