@@ -161,7 +161,6 @@ void CajaTexto::keyPressEvent(QKeyEvent *e)
 void MsgBoxInformacion(QWidget *padre, const QString &titulo, const QString &texto)
 {
     QMessageBox caja(QMessageBox::Information, titulo, texto, QMessageBox::Ok, padre);
-    caja.setWindowIcon(IconoPrograma());
     caja.exec();
 }
 

@@ -135,7 +135,8 @@ class CajaTexto : public QLineEdit {
     void keyPressEvent(QKeyEvent *e) override;
 };
 
-// A modal information box with one OK button; returns once it is closed.
+// A modal information box with one OK button, showing its owner's icon;
+// returns once it is closed.
 void MsgBoxInformacion(QWidget *padre, const QString &titulo, const QString &texto);
 
 // Qt's own texts (message-box buttons, the text boxes' context menu) in
