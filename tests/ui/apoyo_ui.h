@@ -33,8 +33,8 @@ class Programa : public ::testing::Test {
 QStringList Datos(const std::string &clave, const std::string &modo);
 
 // What the player sees of a control, and of a whole window (title first,
-// then the controls in the order built, with their place in pixels when
-// `lugar`), written as textos.txt writes them.
+// then the controls in the order built; with `lugar`, the window's client
+// size and each control's place in pixels), written as textos.txt writes them.
 QString Describe(QWidget *w);
 QStringList Textos(QWidget *v, bool lugar);
 
