@@ -34,8 +34,9 @@ VentanaIdioma::VentanaIdioma()
             optEspañol_Click();
     };
 
-    // Tab goes Accept, Exit, the selected option, as built.
-    cmdAceptar->setDefault(true); // Enter on an option accepts it
+    // Tab goes Accept, Exit, the selected option, as built. Accept, first in
+    // that order, is the default button Qt gives a dialog: Enter on an option
+    // accepts it.
 }
 
 void VentanaIdioma::Form_Load()
