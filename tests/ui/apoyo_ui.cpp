@@ -85,8 +85,11 @@ QStringList Textos(QWidget *v, bool lugar)
                   (lugar ? QString::asprintf(" %dx%d", cliente.width(), cliente.height()) : "")};
     for (QWidget *w : v->findChildren<QWidget *>()) {
         QString s = Describe(w);
-        if (lugar && !s.isEmpty() && !qobject_cast<QMenu *>(w))
-            s += QString::asprintf(" @%d,%d,%d,%d", w->x(), w->y(), w->width(), w->height());
+        if (lugar && !s.isEmpty() && !qobject_cast<QMenu *>(w)) {
+            const QFont f = w->font();
+            s += QString::asprintf(" %gpt%s @%d,%d,%d,%d", f.pointSizeF(), f.bold() ? " bold" : "",
+                                   w->x(), w->y(), w->width(), w->height());
+        }
         if (!s.isEmpty())
             t << s;
     }
