@@ -39,12 +39,13 @@ void Clic(QAbstractButton *b)
 // What the player sees of one control: its text, the selected option marked
 // "(*)", a text box's limit, a menu with its items ("[x]" checked, "[-]"
 // disabled); "_" for nothing. Empty when it is no control of those kinds.
-// A raised bevel, and the colour of a background the widget paints itself.
+// A raised bevel with its width, and the colour of a background the widget
+// paints itself.
 QString Fondo(QWidget *w)
 {
     auto *marco = qobject_cast<QFrame *>(w);
     const bool bisel = marco && marco->frameStyle() == (QFrame::Panel | QFrame::Raised);
-    return (bisel ? QStringLiteral(" raised") : QString()) +
+    return (bisel ? QStringLiteral(" raised %1").arg(marco->lineWidth()) : QString()) +
            (w->autoFillBackground() ? " " + w->palette().color(QPalette::Window).name()
                                     : QString());
 }
