@@ -7,6 +7,7 @@ reader meets the program.
     teclado.py PROGRAM
 """
 import os
+import re
 import subprocess
 import sys
 import time
@@ -53,6 +54,13 @@ def ventana(titulo):
     """The window (frame, dialog or message box) with this title, once it is up."""
     return espera(lambda: next((v for v in ventanas() if v.name == titulo), None),
                   "the window '%s' (there are: %s)" % (titulo, [v.name for v in ventanas()]))
+
+
+def activa(titulo):
+    """The window in front with the keyboard, as the player's click on it
+    leaves it: under load the window manager may map a new window unfocused."""
+    subprocess.run(["xdotool", "search", "--sync", "--name", "^%s$" % re.escape(titulo),
+                    "windowactivate", "--sync"], check=True, stdout=subprocess.DEVNULL)
 
 
 def cerrada(titulo):
@@ -129,11 +137,13 @@ def main():
         # Start-up: Tab, Tab reaches the selected option; Up selects English
         # at once; Enter on the option accepts it.
         ventana("Selección de idioma")
+        activa("Selección de idioma")
         time.sleep(1)
         idioma_por_teclado("Selección de idioma", "Aceptar", "Español", "Up", "English")
         ventana("Idiom selection")
         teclas("Return")
         p = ventana("The tic tac toe (Level 3)")
+        activa("The tic tac toe (Level 3)")
         time.sleep(1)
 
         # Enter on the focused empty square plays X there; the panel's new

@@ -9,10 +9,11 @@ trap 'rm -f "$sesion"' EXIT
 cat > "$sesion" <<SESION
 set -eu
 openbox > /dev/null 2>&1 &
-# The window manager up, so new windows get the focus, and the accessibility
-# bus started (asking for its address does), before the game starts.
+# The window manager managing (it lists what it supports only once it is,
+# after claiming the screen), so new windows get the focus, and the
+# accessibility bus started (asking for its address does), before the game.
 for _ in \$(seq 100); do
-    xprop -root _NET_SUPPORTING_WM_CHECK 2> /dev/null | grep -q window &&
+    xprop -root _NET_SUPPORTED 2> /dev/null | grep -q _NET_ACTIVE_WINDOW &&
         dbus-send --session --print-reply --dest=org.a11y.Bus /org/a11y/bus \
             org.a11y.Bus.GetAddress > /dev/null 2>&1 && break
     sleep 0.1
