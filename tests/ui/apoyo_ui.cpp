@@ -29,6 +29,13 @@ QStringList Datos(const std::string &clave, const std::string &modo)
     return valores;
 }
 
+QWidget *Delante()
+{
+    if (QWidget *m = QApplication::activeModalWidget())
+        return m;
+    return frmSeleccion.Existe() ? static_cast<QWidget *>(&frmSeleccion()) : &Form1();
+}
+
 void Clic(QAbstractButton *b)
 {
     // An option button takes clicks on its circle and caption only.

@@ -38,6 +38,10 @@ QStringList Datos(const std::string &clave, const std::string &modo);
 QString Describe(QWidget *w);
 QStringList Textos(QWidget *v, bool lugar);
 
+// The modal window in front, else the language window at start-up, else the
+// main window.
+QWidget *Delante();
+
 void Clic(QAbstractButton *b);
 
 // Runs a script of actions and checks, as guiones.txt explains them; `start`

@@ -126,13 +126,6 @@ class Guion {
         return (d.isEmpty() ? k : d[0] == "_" ? QString() : d[0]) + resto;
     }
 
-    // The modal window in front, else the language window at start-up, else the main window.
-    QWidget *Delante() const
-    {
-        if (QWidget *m = QApplication::activeModalWidget())
-            return m;
-        return frmSeleccion.Existe() ? static_cast<QWidget *>(&frmSeleccion()) : &Form1();
-    }
     QAbstractButton *Boton(int i) const { return Delante()->findChildren<QPushButton *>().at(i); }
     QRadioButton *Opcion(int i) const { return Delante()->findChildren<QRadioButton *>().at(i); }
     QLineEdit *Caja(int i) const { return Delante()->findChildren<QLineEdit *>().at(i); }

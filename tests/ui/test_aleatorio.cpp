@@ -50,7 +50,7 @@ class Jugador {
         if (!agotado || modal) // the last action ends the program
             QTimer::singleShot(0, &vida_, [this] { Actua(); });
         mensajes_ += qobject_cast<QMessageBox *>(modal) != nullptr; // the opponents' refusal
-        QWidget *v = modal ? modal : principal ? static_cast<QWidget *>(&Form1()) : &frmSeleccion();
+        QWidget *v = Delante();
         if (agotado || Dado(100) == 0) // the title bar's close; the main window's ends the program
             return v->close(), void();
         const int d = Dado(100);
