@@ -125,14 +125,23 @@ class GrupoOpciones {
 };
 
 // A single-line text box whose KeyDown handler sees every key first; Enter
-// arrives as key code 13 and goes no further.
+// arrives as key code 13 and goes no further. However text comes in (keys,
+// an input method, paste, code), the box holds one line without control
+// characters, of at most `largoMaximo` characters as a person counts them:
+// an accent stays with its letter, an emoji sequence is never split.
 class CajaTexto : public QLineEdit {
   public:
     CajaTexto(QWidget *padre, const QRect &geometria, int largoMaximo);
     std::function<void(int codigo)> KeyDown;
+    int LargoMaximo() const { return largoMaximo_; }
 
   protected:
     void keyPressEvent(QKeyEvent *e) override;
+
+  private:
+    void Ajusta(const QString &nuevo);
+    const int largoMaximo_;
+    QString aceptado_; // the text as last taken
 };
 
 // A modal information box with one OK button, showing its owner's icon;

@@ -31,9 +31,13 @@ class Superficie : public QWidget {
     }
 };
 
-QString Nombre(const std::string &jugador)
+// A player's name inside a message, isolated from the text around it (first
+// strong isolate ... pop directional isolate): whatever its script or its
+// direction marks, the message keeps its own order around it.
+QString Nombre(const std::string &jugador, bool recortado = false)
 {
-    return QString::fromStdString(jugador);
+    const QString nombre = QString::fromStdString(jugador);
+    return QChar(0x2068) + (recortado ? Trim(nombre) : nombre) + QChar(0x2069);
 }
 
 } // namespace
@@ -53,6 +57,8 @@ VentanaPrincipal::VentanaPrincipal()
     setCentralWidget(superficie);
 
     Panel = new Panel3D(superficie, TwRect(570, 90, 3585, 585));
+    // A message naming a player of wide characters takes the panel's second line.
+    Panel->setWordWrap(true);
 
     const QFont marcas = FuentePrograma(24);
     for (Integer k = 0; k < 9; ++k) {
@@ -140,7 +146,7 @@ void VentanaPrincipal::JuegaCasilla(Integer Index)
         PintaComputadora();
         if (!FinSiTermino(strPierdes))
             Panel->Caption(strTuTurno);
-    } else if (!FinSiTermino(strGana + Trim(Nombre(JugadorDelTurno())) + QStringLiteral("!"))) {
+    } else if (!FinSiTermino(strGana + Nombre(JugadorDelTurno(), true) + QStringLiteral("!"))) {
         Turno = Turno == kTurnoJugador1 ? kTurnoJugador2 : kTurnoJugador1;
         AnunciaTurno();
     }

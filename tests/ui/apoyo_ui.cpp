@@ -72,8 +72,8 @@ QString Describe(QWidget *w)
         s = b->text() + (b->isEnabled() ? "" : " [-]");
     } else if (auto *l = qobject_cast<QLabel *>(w)) {
         s = QString(l->text()).replace("\n", "\\n");
-    } else if (auto *e = qobject_cast<QLineEdit *>(w)) {
-        s = QStringLiteral("[%1]").arg(e->maxLength()) + e->text();
+    } else if (auto *e = dynamic_cast<CajaTexto *>(w)) {
+        s = QStringLiteral("[%1]").arg(e->LargoMaximo()) + e->text();
     } else if (qobject_cast<QFrame *>(w)) {
         s = QStringLiteral("[panel]");
     } else {
@@ -102,6 +102,16 @@ QStringList Textos(QWidget *v, bool lugar)
             t << s;
     }
     return t;
+}
+
+QStringList Grafemas(const QString &texto)
+{
+    QStringList trozos;
+    QTextBoundaryFinder limites(QTextBoundaryFinder::Grapheme, texto);
+    for (qsizetype inicio = 0, p; (p = limites.toNextBoundary()) != -1;)
+        if (p == texto.size() || !texto[p].isLowSurrogate()) // not within a surrogate pair
+            trozos << texto.mid(inicio, p - inicio), inicio = p;
+    return trozos;
 }
 
 int main(int argc, char **argv)

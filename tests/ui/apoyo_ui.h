@@ -44,6 +44,9 @@ QWidget *Delante();
 
 void Clic(QAbstractButton *b);
 
+// The characters of a text as a person sees them (grapheme clusters).
+QStringList Grafemas(const QString &texto);
+
 // Runs a script of actions and checks, as guiones.txt explains them; `start`
 // chooses English when `ingles`.
 void Ejecuta(const QStringList &lineas, bool ingles);

@@ -51,19 +51,20 @@ class Jugador {
             QTimer::singleShot(0, &vida_, [this] { Actua(); });
         mensajes_ += qobject_cast<QMessageBox *>(modal) != nullptr; // the opponents' refusal
         QWidget *v = Delante();
+        const QList<QLineEdit *> cajas = v->findChildren<QLineEdit *>();
+        for (QLineEdit *caja : cajas)
+            ASSERT_TRUE(NombreSano(caja->text())) << caja->text().toStdString();
         if (agotado || Dado(100) == 0) // the title bar's close; the main window's ends the program
             return v->close(), void();
         const int d = Dado(100);
         if (principal && d >= 60)
             return Una(Form1().mnuOpciones->actions())->trigger();
-        const QList<QLineEdit *> cajas = v->findChildren<QLineEdit *>();
-        if (!cajas.isEmpty() && d < 30) { // up to 20 characters added to a box, or to it emptied
-            const QString letras = QStringLiteral("abcAnaBeto  áéñÑüΩЖ中 "); // and other scripts
+        if (!cajas.isEmpty() && d < 30) { // up to 20 pieces into a box, or it emptied first
             QLineEdit *caja = Una(cajas);
             if (Dado(2))
                 caja->clear();
             for (int n = Dado(21); n > 0; --n)
-                caja->insert(letras[Dado(int(letras.size()))]);
+                Escribe(caja, Una(trozos_));
             return;
         }
         if (d < 40) {
@@ -72,6 +73,29 @@ class Jugador {
                 w, Una(QList{Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter, Qt::Key_Up}));
         }
         Clic(Una(v->findChildren<QAbstractButton *>()));
+    }
+
+    // By key, input method, paste or code, as text reaches a box.
+    void Escribe(QLineEdit *caja, const QString &t)
+    {
+        QKeyEvent tecla(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, t);
+        QInputMethodEvent metodo;
+        metodo.setCommitString(t);
+        QApplication::clipboard()->setText(t);
+        if (const int como = Dado(4); como < 2)
+            QApplication::sendEvent(caja, como ? static_cast<QEvent *>(&metodo) : &tecla);
+        else if (como == 2)
+            caja->paste();
+        else
+            caja->setText(caja->text().insert(Dado(int(caja->text().size()) + 1), t));
+    }
+
+    // One line of at most 15 whole characters, none of them a control.
+    static bool NombreSano(const QString &nombre)
+    {
+        return nombre.isValidUtf16() && Grafemas(nombre).size() <= 15 &&
+               std::none_of(nombre.begin(), nombre.end(),
+                            [](QChar c) { return c.category() == QChar::Other_Control; });
     }
 
     void Verifica()
@@ -106,12 +130,21 @@ class Jugador {
         // Names come in pairs, trimmed, as long as a box holds at most.
         for (const std::string *j : {&Jugador1, &Jugador2}) {
             const QString nombre = QString::fromStdString(*j);
-            ASSERT_TRUE(nombre == Trim(nombre) && nombre.size() <= 15 &&
+            ASSERT_TRUE(nombre == Trim(nombre) && NombreSano(nombre) &&
                         j->empty() == Jugador1.empty())
                 << *j;
         }
     }
 
+    // Letters of several scripts, accents apart, emoji with joiners and skin
+    // tones, right-to-left text and overrides, controls, line breaks, long text.
+    const QStringList trozos_ =
+        QStringLiteral(
+            "a|Ana| |  Beto "
+            "|ñ|Ω|Ж|中|e\u0301|\u0915\u094D\u200D\u0937|שלום|\u202Eoveja|👍🏽|"
+            "👩‍👩‍👧|🇪🇸|"
+            "\t|\u0085|\x7f|Ana\nBeto|x\r\ny|zzzzzzzzzzzzzzzzzzzzzzzzz")
+            .split('|');
     std::mt19937 g_;
     QObject vida_; // the queued actions die with the player
     int restantes_ = 0;
