@@ -9,12 +9,14 @@
 #include <QKeyEvent>
 #include <QLayout>
 #include <QLibraryInfo>
+#include <QMainWindow>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
 #include <QTextBoundaryFinder>
 #include <QTranslator>
+#include <QWindow>
 
 QFont FuentePrograma(double puntos, bool negrita)
 {
@@ -63,8 +65,15 @@ void Dialogo::PintaFondo(const QColor &color)
 
 void Dialogo::MuestraModal()
 {
-    // Without an owner: modal to the whole application, and Qt centres it
-    // over the active window, the main window.
+    // Without an owner: modal to the whole application. The window system
+    // is still told which window it opens over, the main window, so that a
+    // Wayland compositor places it there and every desktop keeps it above;
+    // Qt centres it over that window.
+    for (QWidget *w : QApplication::topLevelWidgets())
+        if (qobject_cast<QMainWindow *>(w) && w->isVisible()) {
+            winId(); // its native window, which carries the link
+            windowHandle()->setTransientParent(w->windowHandle());
+        }
     exec();
 }
 

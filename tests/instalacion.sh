@@ -2,7 +2,7 @@
 # The installed tree and the Debian package: the desktop entry and the
 # AppStream file validate, every icon is there, Debian's package checker
 # finds no error or warning, and the packaged binary starts and ends by
-# itself once its window is closed.
+# itself on Exit; its windows name the desktop entry on X11 and Wayland.
 #   instalacion.sh BUILD-DIR
 set -euo pipefail
 build=$(cd "$1" && pwd)
@@ -14,8 +14,15 @@ cmake --install "$build" --prefix "$scratch/prefix" > /dev/null
 share=$scratch/prefix/share
 test -x "$scratch/prefix/games/supertirlo"
 test -s "$share/man/man6/supertirlo.6.gz"
-desktop-file-validate "$share/applications/$id.desktop"
-appstreamcli validate --no-net "$share/metainfo/$id.metainfo.xml"
+entry=$share/applications/$id.desktop
+metainfo=$share/metainfo/$id.metainfo.xml
+desktop-file-validate "$entry"
+appstreamcli validate --no-net "$metainfo"
+# The entry, the AppStream launchable, the icon, the binary and the windows'
+# WM_CLASS all name one program.
+for line in Exec=supertirlo Icon=supertirlo StartupWMClass=supertirlo; do grep -qx "$line" "$entry"; done
+grep -q "<launchable type=\"desktop-id\">$id.desktop</launchable>" "$metainfo"
+grep -q "<binary>supertirlo</binary>" "$metainfo"
 test -s "$share/icons/hicolor/scalable/apps/supertirlo.svg"
 for n in 16 32 48 64 128 256; do
     file "$share/icons/hicolor/${n}x${n}/apps/supertirlo.png" | grep -q "PNG image data, $n x $n"
@@ -30,22 +37,48 @@ dpkg-deb -x "$deb" "$scratch/root"
 binary=$scratch/root/usr/games/supertirlo
 test -x "$binary"
 
-# Started on its own display: the language window comes up; Escape closes
-# it, and with no window left the program must end with status 0.
+# Started on its own display: the language window comes up, named after the
+# desktop entry; Enter opens the main window, and the level dialog opens
+# transient for it; Exit ends the program with status 0.
 cat > "$scratch/sesion.sh" <<SESION
 set -eu
+ventana() { # the id of the window with this title, once it is up
+    for _ in \$(seq 100); do
+        id=\$(xdotool search --onlyvisible --name "\$1" 2> /dev/null | head -n 1)
+        [ -n "\$id" ] && echo \$id && return
+        sleep 0.1
+    done
+    echo "no window '\$1'" >&2; return 1
+}
 QT_QPA_PLATFORM=xcb "$binary" &
 game=\$!
-for _ in \$(seq 100); do
-    id=\$(xdotool search --onlyvisible --name 'idioma' 2> /dev/null | head -n 1) && [ -n "\$id" ] && break
-    sleep 0.1
-done
-[ -n "\$id" ] || { echo 'the language window did not open'; kill \$game; exit 1; }
-xdotool windowfocus --sync "\$id"
-xdotool key Escape
+w=\$(ventana idioma)
+[ "\$(xprop -id \$w WM_CLASS _GTK_APPLICATION_ID _KDE_NET_WM_DESKTOP_FILE | cut -d= -f2)" = \
+  ' "supertirlo", "supertirlo"
+ "$id"
+ "$id"' ]
+xdotool windowfocus --sync \$w key Return
+main=\$(ventana 'Nivel 3')
+xdotool windowfocus --sync \$main key alt+o n
+nivel=\$(ventana '^Nivel\$')
+xprop -id \$nivel WM_TRANSIENT_FOR | grep -q "# \$(printf '0x%x' \$main)\$"
+xdotool windowfocus --sync \$nivel key Escape
+xdotool windowfocus --sync \$main key alt+o s
 for _ in \$(seq 50); do kill -0 \$game 2> /dev/null || break; sleep 0.1; done
-if kill -0 \$game 2> /dev/null; then echo 'still running after its window closed'; kill \$game; exit 1; fi
+if kill -0 \$game 2> /dev/null; then echo 'still running after Exit'; kill \$game; exit 1; fi
 wait \$game
+
+# Beside a Wayland compositor that leaves the frames to its clients, the
+# game opens on the X display; told to use Wayland, it names its entry.
+bash "$(dirname "$0")/weston.sh" bash -ec '
+    env -u QT_QPA_PLATFORM XDG_SESSION_TYPE=wayland "$binary" & game=\$!
+    timeout 10 xdotool search --sync --onlyvisible --name idioma > /dev/null ||
+        { echo "the game did not open on the X display"; exit 1; }
+    kill \$game
+    WAYLAND_DEBUG=1 QT_QPA_PLATFORM=wayland "$binary" 2> "$scratch/wayland.log" & game=\$!
+    until grep -q set_app_id "$scratch/wayland.log"; do sleep 0.1; done
+    kill \$game
+    grep -q "set_app_id(\"$id\")" "$scratch/wayland.log"'
 SESION
 xvfb-run -a -s '-screen 0 1024x768x24 -nolisten tcp' bash "$scratch/sesion.sh"
 echo "installed tree, package and packaged binary: fine"

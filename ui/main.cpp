@@ -1,3 +1,4 @@
+#include "escritorio.h"
 #include "formularios.h"
 
 #include <QApplication>
@@ -7,7 +8,9 @@ int main(int, char *argv[])
     // The game takes no arguments: not even the toolkit's own options are read.
     int argc = 1;
     char *soloPrograma[] = {argv[0], nullptr};
+    EligeSistemaDeVentanas();
     QApplication app(argc, soloPrograma);
+    IdentificaPrograma();
     Main();
     return app.exec();
 }
