@@ -3,6 +3,7 @@
 #include "icono.h"
 
 #include <QAccessible>
+#include <QAccessibleWidget>
 #include <QApplication>
 #include <QButtonGroup>
 #include <QFontDatabase>
@@ -122,6 +123,48 @@ void Panel3D::Caption(const QString &texto)
     // Read without the marks that isolate a name: setting the name also
     // tells assistive technology that it changed.
     setAccessibleName(QString(texto).remove(QChar(0x2068)).remove(QChar(0x2069)));
+}
+
+Avisador::Avisador(QWidget *ventana) : QObject(ventana), ventana_(ventana)
+{
+    // Screen readers speak an object of the notification role as it appears.
+    static const bool rol = [] {
+        QAccessible::installFactory([](const QString &, QObject *o) -> QAccessibleInterface * {
+            return o->objectName() == QLatin1String("aviso")
+                       ? new QAccessibleWidget(static_cast<QWidget *>(o), QAccessible::Notification)
+                       : nullptr;
+        });
+        return true;
+    }();
+    Q_UNUSED(rol)
+    ventana_->installEventFilter(this);
+}
+
+void Avisador::Avisa(const QString &mensaje)
+{
+    pendiente_ = mensaje;
+    if (ventana_->isActiveWindow())
+        Muestra();
+}
+
+bool Avisador::eventFilter(QObject *, QEvent *e)
+{
+    // After the window's own activation has been told.
+    if (e->type() == QEvent::WindowActivate && !pendiente_.isEmpty())
+        QMetaObject::invokeMethod(this, &Avisador::Muestra, Qt::QueuedConnection);
+    return false;
+}
+
+void Avisador::Muestra()
+{
+    if (pendiente_.isEmpty())
+        return;
+    delete anterior_;
+    anterior_ = new QWidget(ventana_);
+    anterior_->setObjectName(QStringLiteral("aviso"));
+    anterior_->resize(0, 0); // it draws nothing and takes no clicks
+    anterior_->setAccessibleName(std::exchange(pendiente_, QString()));
+    anterior_->show();
 }
 
 GrupoOpciones::GrupoOpciones(QObject *dueno) : grupo_(new QButtonGroup(dueno))

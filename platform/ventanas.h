@@ -109,6 +109,25 @@ class Panel3D : public QLabel {
     void Caption(const QString &texto);
 };
 
+// Says a message to a screen reader, once: each message is a new
+// notification in the window, which screen readers speak as it appears; the
+// one before goes. A message for a window that is not active waits until it
+// is, so that it follows what the screen reader says of the window itself.
+class Avisador : public QObject {
+  public:
+    explicit Avisador(QWidget *ventana);
+    void Avisa(const QString &mensaje);
+
+  protected:
+    bool eventFilter(QObject *o, QEvent *e) override;
+
+  private:
+    void Muestra();
+    QWidget *ventana_;
+    QString pendiente_;
+    QPointer<QWidget> anterior_;
+};
+
 // Option buttons in one container: exactly one selected.
 // Click runs with the index whenever an option becomes selected, by the user
 // or by Selecciona, before Selecciona returns.

@@ -2,9 +2,11 @@
 """A keyboard-only player, heard through a screen reader.
 
 Starts the game on the display and accessibility bus it is given, presses
-keys with xdotool and reads every result back over AT-SPI, the way a screen
-reader meets the program.
-    teclado.py PROGRAM
+keys with xdotool, reads every result back over AT-SPI, the way a screen
+reader meets the program, and checks what Orca, the screen reader running
+beside it, says after each key: whole games in both languages, the dialogs
+and the message boxes.
+    teclado.py PROGRAM ORCA-DEBUG-FILE
 """
 import os
 import re
@@ -14,8 +16,13 @@ import time
 
 import pyatspi
 
+# The panel's last message of a game, in either language.
+FIN = ("Congratulations, you win!", "You lose", "Draw game!", "¡Felicidades tu ganas!",
+       "Lo siento tu pierdes", "¡Juego empatado!")
+
 
 def espera(condicion, que, segundos=10):
+    """The condition's value once it holds; `que` says, when it never does, what was awaited."""
     fin = time.time() + segundos
     while time.time() < fin:
         try:
@@ -24,8 +31,43 @@ def espera(condicion, que, segundos=10):
             valor = None
         if valor:
             return valor
-        time.sleep(0.1)
-    raise AssertionError("waited in vain for " + que)
+        time.sleep(0.05)
+    raise AssertionError("waited in vain for " + (que() if callable(que) else que))
+
+
+class Orca:
+    """What Orca says, from the lines SPEECH OUTPUT of its debug file."""
+
+    def __init__(self, archivo):
+        self.archivo, self.desde, self.avisos = archivo, 0, 0
+
+    def dicho(self):
+        """All it said since the last mark."""
+        with open(self.archivo, encoding="utf-8", errors="replace") as f:
+            f.seek(self.desde)
+            return re.findall(r"SPEECH OUTPUT: '(.*)' ?\{'established", f.read())
+
+    def marca(self):
+        self.desde = os.path.getsize(self.archivo)
+
+    def oye(self, *textos):
+        """Waits until it has said each text (the start of an utterance), in this order."""
+        def oido():
+            resto = list(textos)
+            for d in self.dicho():
+                if resto and d.startswith(resto[0]):
+                    resto.pop(0)
+            return not resto
+        espera(oido, lambda: "Orca to say %s; it said %s" % (list(textos), self.dicho()))
+
+    def aviso(self, esperado):
+        """The notification that tells what the last key did: once it is
+        heard, the state it tells of is there to read, and `esperado` says
+        what it must be."""
+        oido = espera(lambda: [d for d in self.dicho() if d.startswith("notification ")],
+                      lambda: "a notification; Orca said %s" % self.dicho())
+        self.avisos += 1
+        assert oido[0].rstrip(".") == "notification " + esperado().rstrip("."), (oido, esperado())
 
 
 def nodos(nodo):
@@ -53,18 +95,23 @@ def ventanas():
 def ventana(titulo):
     """The window (frame, dialog or message box) with this title, once it is up."""
     return espera(lambda: next((v for v in ventanas() if v.name == titulo), None),
-                  "the window '%s' (there are: %s)" % (titulo, [v.name for v in ventanas()]))
+                  lambda: "the window '%s' (there are: %s)" % (titulo, [v.name for v in ventanas()]))
 
 
 def activa(titulo):
     """The window in front with the keyboard, as the player's click on it
     leaves it: under load the window manager may map a new window unfocused."""
-    subprocess.run(["xdotool", "search", "--sync", "--name", "^%s$" % re.escape(titulo),
-                    "windowactivate", "--sync"], check=True, stdout=subprocess.DEVNULL)
+    espera(lambda: subprocess.run(["xdotool", "search", "--sync", "--name",
+                                   "^%s$" % re.escape(titulo), "windowactivate", "--sync"],
+                                  stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL
+                                  ).returncode == 0, "the window manager to activate " + titulo)
 
 
 def cerrada(titulo):
+    """The window gone, and the one under it active again, to take the next keys."""
     espera(lambda: all(v.name != titulo for v in ventanas()), "'%s' to close" % titulo)
+    espera(lambda: any(v.getState().contains(pyatspi.STATE_ACTIVE) for v in ventanas()),
+           "a window to be active after '%s'" % titulo)
 
 
 def enfocado(v):
@@ -79,7 +126,20 @@ def marcado(n):
 
 def teclas(*nombres):
     subprocess.run(["xdotool", "key", "--delay", "60"] + list(nombres), check=True)
-    time.sleep(0.15)
+
+
+def menu(orca, letra):
+    """Alt+O in the main window, as a person types it: Alt held until the
+    screen reader has taken it, then O; once Orca reads the open menu, the
+    item's access key."""
+    activa(next(v.name for v in ventanas() if v.getRoleName() == "frame"))
+    orca.marca()
+    subprocess.run(["xdotool", "keydown", "alt"], check=True)
+    orca.oye("left alt")
+    teclas("o")
+    subprocess.run(["xdotool", "keyup", "alt"], check=True)
+    orca.oye("1 vs 2")
+    teclas(letra)
 
 
 def foco_es(v, rol, nombre, checked=None):
@@ -87,13 +147,57 @@ def foco_es(v, rol, nombre, checked=None):
         n = enfocado(v)
         return (n is not None and n.getRoleName() == rol and n.name == nombre
                 and (checked is None or marcado(n) == checked))
-    n = enfocado(v)
-    espera(bien, "the focus on %s '%s' in '%s' (it is on %s '%s')" % (
-        rol, nombre, v.name, n.getRoleName() if n else None, n.name if n else None))
+    espera(bien, lambda: "the focus on %s '%s' in '%s' (it is on %s)" % (
+        rol, nombre, v.name, [(n.getRoleName(), n.name) for n in [enfocado(v)] if n]))
 
 
-def mensaje(titulo, texto, boton):
-    """The information box: its text and its one button, closed with Enter."""
+def casillas(p):
+    return [n for n in nodos(p) if n.getRoleName() == "push button"
+            and n.name[:7] in ("Square ", "Casilla")]
+
+
+def panel(p):
+    return next(n.name for n in nodos(p) if n.getRoleName() == "label")
+
+
+def anuncio(p, orca, antes=None, casilla=None):
+    """Orca says the square played (the one named `casilla`), then every
+    other square marked since `antes` (all of them for a new game), each as
+    the square reads, and the panel's message."""
+    def esperado():
+        marcadas = [c.name for c in casillas(p) if c.name[-1] in "X0"]
+        jugada = [n for n in marcadas if casilla and n.startswith(casilla)]
+        return ". ".join(jugada + [n for n in marcadas if n not in jugada + (antes or [])]
+                         + [panel(p)])
+    orca.aviso(esperado)
+
+
+def tab(p):
+    """Tab, and the focus moved."""
+    antes = enfocado(p).name
+    teclas("Tab")
+    espera(lambda: enfocado(p).name != antes, "the focus to leave " + antes)
+
+
+def partida(p, orca):
+    """Plays the next empty square, by Tab and Enter, until the game is over;
+    then Enter on a taken square says nothing, and Tab reads the next one."""
+    while not (panel(p) in FIN or panel(p).startswith(("Win ", "¡Gana "))):
+        while enfocado(p).name[-1] in "X0":
+            tab(p)
+        antes = [c.name for c in casillas(p)]
+        orca.marca()
+        teclas("Return")
+        anuncio(p, orca, antes, enfocado(p).name.rsplit(": ", 1)[0] + ": ")
+    orca.marca()
+    teclas("Return")
+    tab(p)
+    orca.oye(enfocado(p).name)
+    assert not [d for d in orca.dicho() if d.startswith("notification")], orca.dicho()
+
+
+def mensaje(orca, titulo, texto, boton):
+    """The information box: its text and its one button, heard and closed with Enter."""
     caja = ventana(titulo)
     assert caja.getRoleName() == "alert", caja.getRoleName()
     textos = [n.name for n in nodos(caja)]
@@ -101,113 +205,131 @@ def mensaje(titulo, texto, boton):
     botones = [n.name for n in nodos(caja) if n.getRoleName() == "push button"]
     assert botones == [boton], botones
     foco_es(caja, "push button", boton)
+    orca.oye("alert " + titulo, texto, boton + " push button")
     teclas("Return")
     cerrada(titulo)
 
 
-def nivel_por_teclado(titulo_menu, tecla, actual, flechas, nuevo):
+def nivel_por_teclado(p, orca, actual, flechas, nuevo, titulo):
     """The level dialog from the menu: Tab lands on the level in force, the
-    arrows select, Enter is OK, and the title shows the new level."""
-    teclas("alt+o", tecla)
-    d = ventana(titulo_menu)
+    arrows select, Enter is OK; Orca says each option and its state, then
+    the new title, and the new game."""
+    menu(orca, "l")
+    d = ventana("Level")
     foco_es(d, "push button", "Ok")
     teclas("Tab")
     foco_es(d, "radio button", actual, checked=True)
+    orca.marca()
     teclas(*flechas)
     foco_es(d, "radio button", nuevo, checked=True)
+    orca.oye(nuevo, "selected radio button")
     teclas("Return")
-    cerrada(titulo_menu)
+    cerrada("Level")
+    orca.oye(titulo + " frame")
+    anuncio(ventana(titulo), orca)
 
 
-def idioma_por_teclado(titulo, aceptar, actual, flecha, nueva):
+def idioma_por_teclado(orca, titulo, aceptar, actual, flecha, nueva):
     """The language window: Tab, Tab lands on the language in force; the
-    arrow selects the other one at once."""
+    arrow selects the other one at once, and Orca says it."""
     s = ventana(titulo)
     foco_es(s, "push button", aceptar)
     teclas("Tab", "Tab")
     foco_es(s, "radio button", actual, checked=True)
+    orca.marca()
     teclas(flecha)
     foco_es(s, "radio button", nueva, checked=True)
+    orca.oye(nueva, "selected radio button")
 
 
 def main():
     env = dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", QT_QPA_PLATFORM="xcb")
+    orca = Orca(sys.argv[2])
     juego = subprocess.Popen([sys.argv[1]], env=env)
     try:
         # Start-up: Tab, Tab reaches the selected option; Up selects English
-        # at once; Enter on the option accepts it.
+        # at once; Enter on the option accepts it, and the first game begins.
         ventana("Selección de idioma")
         activa("Selección de idioma")
-        time.sleep(1)
-        idioma_por_teclado("Selección de idioma", "Aceptar", "Español", "Up", "English")
+        orca.oye("Selección de idioma dialog", "Aceptar push button")
+        idioma_por_teclado(orca, "Selección de idioma", "Aceptar", "Español", "Up", "English")
         ventana("Idiom selection")
+        orca.marca()
         teclas("Return")
         p = ventana("The tic tac toe (Level 3)")
         activa("The tic tac toe (Level 3)")
-        time.sleep(1)
-
-        # Enter on the focused empty square plays X there; the panel's new
-        # text is there to be read.
-        casillas = lambda: [n for n in nodos(p) if n.getRoleName() == "push button"
-                            and n.name[:7] in ("Square ", "Casilla")]
-        assert len(casillas()) == 9, [n.name for n in casillas()]
-        for _ in range(9):
-            n = enfocado(p)
-            if n is not None and n.name.endswith(": empty"):
-                break
-            teclas("Tab")
+        orca.oye("The tic tac toe (Level 3) frame")
+        assert len(casillas(p)) == 9, [n.name for n in casillas(p)]
         n = enfocado(p)
-        assert n.name.endswith(": empty"), n.name
+        assert n.name.startswith("Square 9, row 3, column 3: "), n.name
         assert n.description == "Press to play on this square", n.description
-        jugada = n.name.split(":")[0]
-        teclas("Return")
-        espera(lambda: any(c.name == jugada + ": X" for c in casillas()), jugada + " to read X")
-        ceros = sum(c.name.endswith(": 0") for c in casillas())
-        panel = [n.name for n in nodos(p) if n.getRoleName() == "label"]
-        assert "Your turn" in panel or "You lose" in panel, panel
-        assert ceros >= 1, [c.name for c in casillas()]
+        anuncio(p, orca)
+
+        # A game against the computer to its end, heard key by key.
+        partida(p, orca)
 
         # The level dialog at each level.
-        nivel_por_teclado("Level", "l", "You can not win", ["Up"], "Medium")
-        ventana("The tic tac toe (Level 2)")
-        nivel_por_teclado("Level", "l", "Medium", ["Up"], "Easy")
-        ventana("The tic tac toe (Level 1)")
-        nivel_por_teclado("Level", "l", "Easy", ["Down", "Down"], "You can not win")
-        ventana("The tic tac toe (Level 3)")
+        nivel_por_teclado(p, orca, "You can not win", ["Up"], "Medium", "The tic tac toe (Level 2)")
+        nivel_por_teclado(p, orca, "Medium", ["Up"], "Easy", "The tic tac toe (Level 1)")
+        nivel_por_teclado(p, orca, "Easy", ["Down", "Down"], "You can not win",
+                          "The tic tac toe (Level 3)")
 
         # Two players: Enter with empty names is refused, in English.
-        teclas("alt+o", "1")
+        menu(orca, "1")
         d = ventana("Opponents")
         foco_es(d, "push button", "Ok")
         teclas("Return")
-        mensaje("Information", "Please write the names", "OK")
+        mensaje(orca, "Information", "Please write the names", "OK")
         foco_es(d, "text", "Name to first player:")
         teclas("Escape")
         cerrada("Opponents")
 
         # The language from the menu: Tab lands on English, the selected one;
         # Down switches to Spanish at once; Enter accepts.
-        teclas("alt+o", "i")
-        idioma_por_teclado("Idiom selection", "Ok", "English", "Down", "Español")
-        ventana("El famoso juego del tirlo (Nivel 3)")
+        menu(orca, "i")
+        idioma_por_teclado(orca, "Idiom selection", "Ok", "English", "Down", "Español")
+        p = ventana("El famoso juego del tirlo (Nivel 3)")
         teclas("Return")
         cerrada("Selección de idioma")
-        nombres = [c.name for c in casillas()]
+        nombres = [c.name for c in casillas(p)]
         assert len(nombres) == 9 and all(n.startswith("Casilla ") for n in nombres), nombres
-        assert "Casilla 1, fila 1, columna 1: vacía" in nombres, nombres
-        assert casillas()[0].description == "Pulse para jugar en esta casilla"
+        assert casillas(p)[0].description == "Pulse para jugar en esta casilla"
 
-        # The same refusal in Spanish, with Qt's own button in Spanish too.
-        teclas("alt+o", "o")
+        # Against the computer again, in Spanish, to the end.
+        orca.marca()
+        menu(orca, "v")
+        anuncio(p, orca)
+        partida(p, orca)
+
+        # Two players: the refusal in Spanish, with Qt's own button in Spanish
+        # too; then the names, and a game to a win.
+        menu(orca, "1")
         d = ventana("Oponentes")
         teclas("Return")
-        mensaje("Información", "Favor de introducir los nombres de los oponentes", "Aceptar")
-        teclas("Escape")
+        mensaje(orca, "Información", "Favor de introducir los nombres de los oponentes",
+                "Aceptar")
+        foco_es(d, "text", "Nombre del primer jugador:")
+        subprocess.run(["xdotool", "type", "Ana"], check=True)
+        teclas("shift+Tab")
+        foco_es(d, "text", "Nombre del segundo jugador:")
+        subprocess.run(["xdotool", "type", "Beto"], check=True)
+        orca.marca()
+        teclas("Return")
         cerrada("Oponentes")
+        anuncio(p, orca)
+        while not enfocado(p).name.startswith("Casilla 9,"):  # from there, a win at the 8th move
+            tab(p)
+        partida(p, orca)
+        assert re.fullmatch("¡Gana el jugador (Ana|Beto)!", panel(p)), panel(p)
 
-        teclas("alt+o", "s")
+        # Every notification was one of those awaited: none stale, none twice.
+        orca.desde = 0
+        avisos = [d for d in orca.dicho() if d.startswith("notification")]
+        assert len(avisos) == orca.avisos, avisos
+
+        menu(orca, "s")
         assert juego.wait(timeout=10) == 0
-        print("keyboard session heard through AT-SPI: fine")
+        print("keyboard session heard through AT-SPI and Orca: fine")
     finally:
         if juego.poll() is None:
             juego.kill()

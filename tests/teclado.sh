@@ -1,11 +1,13 @@
 #!/usr/bin/env bash
 # Runs teclado.py on a private X display with a window manager, inside its
-# own D-Bus session with the accessibility bus up, as a desktop would.
+# own D-Bus session with the accessibility bus up and the Orca screen reader
+# running, as a desktop would.
 #   teclado.sh PROGRAM
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
 sesion=$(mktemp)
-trap 'rm -f "$sesion"' EXIT
+mkdir "$sesion.d"
+trap 'rm -rf "$sesion" "$sesion.d"' EXIT
 cat > "$sesion" <<SESION
 set -eu
 openbox > /dev/null 2>&1 &
@@ -18,9 +20,16 @@ for _ in \$(seq 100); do
             org.a11y.Bus.GetAddress > /dev/null 2>&1 && break
     sleep 0.1
 done
+# Orca, the desktop's screen reader, writes all it would say into its debug
+# file; through a terminal (script) it writes each line as it comes. With
+# speech off it waits for no speech server, and says all the same.
+script -qfc "orca --replace --disable speech -u '$sesion.d' --debug-file /dev/stdout" \
+    "$sesion.d/orca" > /dev/null 2>&1 &
+orca=\$!
+for _ in \$(seq 300); do grep -qs "Screen reader on" "$sesion.d/orca" && break; sleep 0.1; done
 status=0
-/usr/bin/python3 "$here/teclado.py" "$(realpath "$1")" || status=\$?
-kill %1 2> /dev/null || true
+/usr/bin/python3 "$here/teclado.py" "$(realpath "$1")" "$sesion.d/orca" || status=\$?
+kill \$orca %1 2> /dev/null || true
 exit \$status
 SESION
 xvfb-run -a -s '-screen 0 1024x768x24 -nolisten tcp' dbus-run-session -- bash "$sesion"

@@ -14,5 +14,6 @@ until [ -S "$XDG_RUNTIME_DIR/$WAYLAND_DISPLAY" ]; do
     sleep 0.05
 done
 # It has no seat: no keyboard, no clipboard, and no input method, whose
-# Wayland protocol Qt 6.4 would look for on a seat and crash without.
-QT_IM_MODULE=none "$@"
+# Wayland protocol Qt 6.4 would look for on a seat and crash without. It
+# draws with pixman: no GPU buffers for Qt to share with it.
+QT_IM_MODULE=none QT_WAYLAND_CLIENT_BUFFER_INTEGRATION=none "$@"

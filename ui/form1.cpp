@@ -120,8 +120,27 @@ void VentanaPrincipal::closeEvent(QCloseEvent *)
 
 void VentanaPrincipal::cmdtir_Click(Integer Index)
 {
+    std::array<QString, 9> antes;
+    for (int k = 0; k < 9; ++k)
+        antes[k] = cmdtir[k]->text();
     JuegaCasilla(Index);
     ActualizaAccesibles();
+    if (cmdtir[Index]->text() != antes[Index]) // a click that plays nothing says nothing
+        Anuncia(antes, Index);
+}
+
+// Tells a screen reader what the board and the panel now say: the square
+// played (`jugada`, -1 for none) and then every other square marked since
+// `antes`, as each square reads, and the panel's message.
+void VentanaPrincipal::Anuncia(const std::array<QString, 9> &antes, Integer jugada)
+{
+    QStringList partes;
+    if (jugada >= 0)
+        partes << cmdtir[jugada]->accessibleName();
+    for (int k = 0; k < 9; ++k)
+        if (k != jugada && cmdtir[k]->text() != antes[k] && !cmdtir[k]->text().isEmpty())
+            partes << cmdtir[k]->accessibleName();
+    avisos_->Avisa((partes << Panel->accessibleName()).join(QStringLiteral(". ")));
 }
 
 void VentanaPrincipal::JuegaCasilla(Integer Index)
@@ -189,6 +208,7 @@ void VentanaPrincipal::cmdnuevo_Click()
         Panel->Caption(strTuTurno);
     }
     ActualizaAccesibles();
+    Anuncia({}, -1); // the computer's opening square, if it opened, and whose turn
 }
 
 // Shows "0" on every square the computer holds that still has no caption.
@@ -204,9 +224,12 @@ void VentanaPrincipal::PintaComputadora()
 void VentanaPrincipal::ActualizaAccesibles()
 {
     for (int k = 0; k < 9; ++k) {
+        // Only what changed: a screen reader hears of every change.
         QPushButton *b = cmdtir[k];
-        b->setAccessibleName(NombreCasilla(k, b->text()));
-        b->setAccessibleDescription(DescripcionCasilla());
+        if (const QString nombre = NombreCasilla(k, b->text()); b->accessibleName() != nombre)
+            b->setAccessibleName(nombre);
+        if (b->accessibleDescription() != DescripcionCasilla())
+            b->setAccessibleDescription(DescripcionCasilla());
     }
 }
 

@@ -222,6 +222,11 @@ class Guion {
             EXPECT_EQ(s, resto);
         } else if (orden == "status") { // as a screen reader reads it
             EXPECT_EQ(Accesible(Form1().Panel), Texto(resto));
+        } else if (orden == "heard") { // the last notification, told once the window is active
+            ASSERT_TRUE(Activa());
+            QCoreApplication::processEvents();
+            auto *aviso = Form1().findChild<QWidget *>("aviso");
+            EXPECT_EQ(aviso ? aviso->accessibleName() : QString(), Texto(texto));
         } else if (orden == "panel") { // as drawn, with what isolates a name
             EXPECT_EQ(Form1().Panel->text(), texto);
         } else if (orden == "title") {
