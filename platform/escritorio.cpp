@@ -36,9 +36,9 @@ bool CompositorEnmarca(wl_display *compositor)
 
 // Sets the desktop-file hints of every X11 window as it is created: GNOME
 // reads the first, KDE the second.
-class HintsX11 : public QObject {
+class NombraVentanasX11 : public QObject {
   public:
-    explicit HintsX11(xcb_connection_t *x) : QObject(qApp), x_(x)
+    explicit NombraVentanasX11(xcb_connection_t *x) : QObject(qApp), x_(x)
     {
         const char *nombres[] = {"UTF8_STRING", "_GTK_APPLICATION_ID", "_KDE_NET_WM_DESKTOP_FILE"};
         xcb_intern_atom_cookie_t pedidos[3];
@@ -88,5 +88,5 @@ void IdentificaPrograma()
 {
     QGuiApplication::setDesktopFileName(QString::fromLatin1(kIdEntrada));
     if (auto *x11 = qApp->nativeInterface<QNativeInterface::QX11Application>())
-        qApp->installEventFilter(new HintsX11(x11->connection()));
+        qApp->installEventFilter(new NombraVentanasX11(x11->connection()));
 }

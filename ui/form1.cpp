@@ -126,13 +126,13 @@ void VentanaPrincipal::cmdtir_Click(Integer Index)
     JuegaCasilla(Index);
     ActualizaAccesibles();
     if (cmdtir[Index]->text() != antes[Index]) // a click that plays nothing says nothing
-        Anuncia(antes, Index);
+        AvisaLector(antes, Index);
 }
 
 // Tells a screen reader what the board and the panel now say: the square
 // played (`jugada`, -1 for none) and then every other square marked since
 // `antes`, as each square reads, and the panel's message.
-void VentanaPrincipal::Anuncia(const std::array<QString, 9> &antes, Integer jugada)
+void VentanaPrincipal::AvisaLector(const std::array<QString, 9> &antes, Integer jugada)
 {
     QStringList partes;
     if (jugada >= 0)
@@ -208,7 +208,7 @@ void VentanaPrincipal::cmdnuevo_Click()
         Panel->Caption(strTuTurno);
     }
     ActualizaAccesibles();
-    Anuncia({}, -1); // the computer's opening square, if it opened, and whose turn
+    AvisaLector({}, -1); // the computer's opening square, if it opened, and whose turn
 }
 
 // Shows "0" on every square the computer holds that still has no caption.

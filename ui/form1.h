@@ -56,7 +56,7 @@ class VentanaPrincipal : public Formulario<QMainWindow> {
     // A line or a full board ends the game with its message: true if it ended.
     bool FinSiTermino(const QString &mensajeLinea);
     void AnunciaTurno();
-    void Anuncia(const std::array<QString, 9> &antes, Integer jugada);
+    void AvisaLector(const std::array<QString, 9> &antes, Integer jugada);
 
     Avisador *avisos_ = new Avisador(this);
 };
