@@ -50,7 +50,7 @@ class Orca:
     def marca(self):
         self.desde = os.path.getsize(self.archivo)
 
-    def oye(self, *textos):
+    def oye(self, *textos, segundos=10):
         """Waits until it has said each text (the start of an utterance), in this order."""
         def oido():
             resto = list(textos)
@@ -58,7 +58,7 @@ class Orca:
                 if resto and d.startswith(resto[0]):
                     resto.pop(0)
             return not resto
-        espera(oido, lambda: "Orca to say %s; it said %s" % (list(textos), self.dicho()))
+        espera(oido, lambda: "Orca to say %s; it said %s" % (list(textos), self.dicho()), segundos)
 
     def aviso(self, esperado):
         """The notification that tells what the last key did: once it is
@@ -131,15 +131,25 @@ def teclas(*nombres):
 def menu(orca, letra):
     """Alt+O in the main window, as a person types it: Alt held until the
     screen reader has taken it, then O; once Orca reads the open menu, the
-    item's access key."""
-    activa(next(v.name for v in ventanas() if v.getRoleName() == "frame"))
-    orca.marca()
-    subprocess.run(["xdotool", "keydown", "alt"], check=True)
-    orca.oye("left alt")
-    teclas("o")
-    subprocess.run(["xdotool", "keyup", "alt"], check=True)
-    orca.oye("1 vs 2")
-    teclas(letra)
+    item's access key. Under load, an Alt+O that Qt's accessibility bridge
+    and Orca pass between them too late opens nothing: the player presses
+    it again, as a person would."""
+    for vez in range(3):
+        plazo = 3 if vez < 2 else 10
+        try:
+            activa(next(v.name for v in ventanas() if v.getRoleName() == "frame"))
+            orca.marca()
+            subprocess.run(["xdotool", "keydown", "alt"], check=True)
+            try:
+                orca.oye("left alt", segundos=plazo)
+                teclas("o")
+            finally:
+                subprocess.run(["xdotool", "keyup", "alt"], check=True)
+            orca.oye("1 vs 2", segundos=plazo)
+            return teclas(letra)
+        except AssertionError:
+            teclas("Escape")
+    raise AssertionError("the menu never opened")
 
 
 def foco_es(v, rol, nombre, checked=None):
