@@ -297,8 +297,12 @@ void CajaTexto::keyPressEvent(QKeyEvent *e)
 
 void MsgBoxInformacion(QWidget *padre, const QString &titulo, const QString &texto)
 {
-    QMessageBox caja(QMessageBox::Information, titulo, texto, QMessageBox::Ok, padre);
-    caja.exec();
+    // Owned by its window, which a screen reader's press on a button behind
+    // the box can unload while the box waits: then both go together.
+    QPointer<QMessageBox> caja =
+        new QMessageBox(QMessageBox::Information, titulo, texto, QMessageBox::Ok, padre);
+    caja->exec();
+    delete caja;
 }
 
 void TextosQtEnEspanol(bool espanol)

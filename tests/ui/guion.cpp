@@ -182,6 +182,8 @@ class Guion {
             Clic(Opcion(n));
         } else if (orden == "toggle") { // the other of two options
             Clic(Opcion(Opcion(0)->isChecked() ? 1 : 0));
+        } else if (orden == "behind") { // a screen reader's press, which modality does not stop
+            Delante()->parentWidget()->window()->findChildren<QPushButton *>().at(n)->click();
         } else if (orden == "close") {
             Delante()->close();
         } else if (orden == "type") {
