@@ -220,7 +220,7 @@ def mensaje(orca, titulo, texto, boton):
     cerrada(titulo)
 
 
-def nivel_por_teclado(p, orca, actual, flechas, nuevo, titulo):
+def nivel_por_teclado(orca, actual, flechas, nuevo, titulo):
     """The level dialog from the menu: Tab lands on the level in force, the
     arrows select, Enter is OK; Orca says each option and its state, then
     the new title, and the new game."""
@@ -279,9 +279,9 @@ def main():
         partida(p, orca)
 
         # The level dialog at each level.
-        nivel_por_teclado(p, orca, "You can not win", ["Up"], "Medium", "The tic tac toe (Level 2)")
-        nivel_por_teclado(p, orca, "Medium", ["Up"], "Easy", "The tic tac toe (Level 1)")
-        nivel_por_teclado(p, orca, "Easy", ["Down", "Down"], "You can not win",
+        nivel_por_teclado(orca, "You can not win", ["Up"], "Medium", "The tic tac toe (Level 2)")
+        nivel_por_teclado(orca, "Medium", ["Up"], "Easy", "The tic tac toe (Level 1)")
+        nivel_por_teclado(orca, "Easy", ["Down", "Down"], "You can not win",
                           "The tic tac toe (Level 3)")
 
         # Two players: Enter with empty names is refused, in English.
