@@ -1,6 +1,7 @@
 #include "ventanas.h"
 
 #include "icono.h"
+#include "modalidad.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
@@ -75,7 +76,7 @@ void Dialogo::MuestraModal()
             winId(); // its native window, which carries the link
             windowHandle()->setTransientParent(w->windowHandle());
         }
-    exec();
+    EjecutaModal(this);
 }
 
 void CentraVentana(QWidget *w)
@@ -134,6 +135,7 @@ Avisador::Avisador(QWidget *ventana) : QObject(ventana), ventana_(ventana)
                        ? new QAccessibleWidget(static_cast<QWidget *>(o), QAccessible::Notification)
                        : nullptr;
         });
+        ProtegeModalidad(); // the guard goes back in front of every factory
         return true;
     }();
     Q_UNUSED(rol)
@@ -297,12 +299,8 @@ void CajaTexto::keyPressEvent(QKeyEvent *e)
 
 void MsgBoxInformacion(QWidget *padre, const QString &titulo, const QString &texto)
 {
-    // Owned by its window, which a screen reader's press on a button behind
-    // the box can unload while the box waits: then both go together.
-    QPointer<QMessageBox> caja =
-        new QMessageBox(QMessageBox::Information, titulo, texto, QMessageBox::Ok, padre);
-    caja->exec();
-    delete caja;
+    QMessageBox caja(QMessageBox::Information, titulo, texto, QMessageBox::Ok, padre);
+    EjecutaModal(&caja);
 }
 
 void TextosQtEnEspanol(bool espanol)

@@ -164,7 +164,7 @@ class CajaTexto : public QLineEdit {
 };
 
 // A modal information box with one OK button, showing its owner's icon;
-// returns once it is closed, or its owner is gone.
+// returns once it is closed.
 void MsgBoxInformacion(QWidget *padre, const QString &titulo, const QString &texto);
 
 // Qt's own texts (message-box buttons, the text boxes' context menu) in

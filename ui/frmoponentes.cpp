@@ -74,17 +74,14 @@ void DialogoOponentes::Text1_KeyDown(Integer, int KeyCode)
         Command1_Click();
 }
 
-// The information box in the language of Idioma, then back to the first name
-// if the dialog is still there: a screen reader can press Cancel past the box.
+// The information box in the language of Idioma, then back to the first name.
 void DialogoOponentes::Informa(const QString &textoEs, const QString &textoEn)
 {
-    const QPointer<DialogoOponentes> abierto = this;
     if (Idioma == kEspanol)
         MsgBoxInformacion(this, QStringLiteral("Información"), textoEs);
     else
         MsgBoxInformacion(this, QStringLiteral("Information"), textoEn);
-    if (abierto)
-        Text1[0]->setFocus();
+    Text1[0]->setFocus();
 }
 
 } // namespace ui

@@ -1,5 +1,6 @@
 #include "escritorio.h"
 #include "formularios.h"
+#include "modalidad.h"
 
 #include <QApplication>
 
@@ -10,6 +11,7 @@ int main(int, char *argv[])
     char *soloPrograma[] = {argv[0], nullptr};
     EligeSistemaDeVentanas();
     QApplication app(argc, soloPrograma);
+    ProtegeModalidad();
     IdentificaPrograma();
     Main();
     return app.exec();

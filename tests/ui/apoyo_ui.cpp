@@ -43,6 +43,15 @@ void Clic(QAbstractButton *b)
     QTest::mouseClick(b, Qt::LeftButton, {}, opcion ? QPoint(6, b->height() / 2) : QPoint());
 }
 
+QAccessibleInterface *Accesible(QObject *o)
+{
+    auto *item = qobject_cast<QAction *>(o);
+    if (!item) // a menu's items are its interface's children
+        return QAccessible::queryAccessibleInterface(o);
+    auto *menu = qobject_cast<QMenu *>(item->parent());
+    return Accesible(menu)->child(int(menu->actions().indexOf(item)));
+}
+
 // What the player sees of one control: its text, the selected option marked
 // "(*)", a text box's limit, a menu with its items ("[x]" checked, "[-]"
 // disabled); "_" for nothing. Empty when it is no control of those kinds.
@@ -120,6 +129,7 @@ int main(int argc, char **argv)
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
+    ProtegeModalidad();
     ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -6,6 +6,7 @@
 #include "apoyo.h"
 #include "estado.h"
 #include "formularios.h"
+#include "modalidad.h"
 
 #include <QtTest>
 #include <QtWidgets>
@@ -43,6 +44,10 @@ QStringList Textos(QWidget *v, bool lugar);
 QWidget *Delante();
 
 void Clic(QAbstractButton *b);
+
+// What assistive technology reaches of a widget or a menu item: the
+// interface Qt's AT-SPI bridge acts through.
+QAccessibleInterface *Accesible(QObject *o);
 
 // The characters of a text as a person sees them (grapheme clusters).
 QStringList Grafemas(const QString &texto);

@@ -7,9 +7,9 @@
 
 namespace {
 
-QString Accesible(QWidget *w)
+QString Nombre(QObject *o)
 {
-    return QAccessible::queryAccessibleInterface(w)->text(QAccessible::Name);
+    return Accesible(o)->text(QAccessible::Name);
 }
 
 // WCAG's relative luminance.
@@ -147,6 +147,13 @@ class Guion {
         return QApplication::activeWindow() == Delante();
     }
 
+    // The menu's items, in the order it lists them.
+    static QAction *Item(const QString &nombre)
+    {
+        const QStringList items{"1vs2", "vspc", "-", "level", "names", "language", "about", "exit"};
+        return Form1().mnuOpciones->actions().at(items.indexOf(nombre));
+    }
+
     QAbstractButton *Boton(int i) const { return Delante()->findChildren<QPushButton *>().at(i); }
     QRadioButton *Opcion(int i) const { return Delante()->findChildren<QRadioButton *>().at(i); }
     QLineEdit *Caja(int i) const { return Delante()->findChildren<QLineEdit *>().at(i); }
@@ -156,10 +163,8 @@ class Guion {
     {
         const QString resto = p.join(' ');
         const int n = p.value(0).toInt();
-        if (orden == "menu") { // the items in the order the menu lists them
-            const QStringList items{"1vs2",  "vspc",     "-",     "level",
-                                    "names", "language", "about", "exit"};
-            Form1().mnuOpciones->actions().at(items.indexOf(resto))->trigger();
+        if (orden == "menu") {
+            Item(resto)->trigger();
         } else if (orden == "draws") {
             if (!azar_)
                 azar_ = std::make_unique<AzarGuionado>();
@@ -182,8 +187,16 @@ class Guion {
             Clic(Opcion(n));
         } else if (orden == "toggle") { // the other of two options
             Clic(Opcion(Opcion(0)->isChecked() ? 1 : 0));
-        } else if (orden == "behind") { // a screen reader's press, which modality does not stop
-            Delante()->parentWidget()->window()->findChildren<QPushButton *>().at(n)->click();
+        } else if (orden == "behind") { // behind sq K | button N | menu ITEM
+            // A screen reader's press on the window under the one in front:
+            // the owner of a message box, else the main window.
+            QWidget *debajo = Delante()->parentWidget() ? Delante()->parentWidget() : &Form1();
+            const QString que = p.value(0);
+            const int i = p.value(1).toInt();
+            QObject *o = que == "sq"       ? static_cast<QObject *>(Form1().cmdtir[i])
+                         : que == "button" ? static_cast<QObject *>(debajo->findChildren<QPushButton *>().at(i))
+                                           : Item(p.value(1));
+            Accesible(o)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
         } else if (orden == "close") {
             Delante()->close();
         } else if (orden == "type") {
@@ -220,10 +233,10 @@ class Guion {
             QString s;
             for (QPushButton *b : Form1().cmdtir)
                 s +=
-                    Accesible(b).section(": ", 1).left(1).replace(QRegularExpression("[^X0]"), ".");
+                    Nombre(b).section(": ", 1).left(1).replace(QRegularExpression("[^X0]"), ".");
             EXPECT_EQ(s, resto);
         } else if (orden == "status") { // as a screen reader reads it
-            EXPECT_EQ(Accesible(Form1().Panel), Texto(resto));
+            EXPECT_EQ(Nombre(Form1().Panel), Texto(resto));
         } else if (orden == "heard") { // the last notification, told once the window is active
             ASSERT_TRUE(Activa());
             QCoreApplication::processEvents();
@@ -262,7 +275,7 @@ class Guion {
             QStringList oido;
             ASSERT_TRUE(Activa());
             while (oido.size() < esperado.size()) {
-                oido << Accesible(QApplication::focusWidget());
+                oido << Nombre(QApplication::focusWidget());
                 QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
             }
             EXPECT_EQ(oido, esperado);

@@ -1,12 +1,16 @@
 // Random sessions: a seeded player does anything the window in front allows,
-// message boxes and the exit included, through the real windows; the
-// program's rules are checked whenever the main window is in front, and the
-// thousands of windows opened and closed on the way must leave none behind
-// (and LeakSanitizer, in the sanitizer build, no memory).
+// message boxes and the exit included, through the real windows; and, as an
+// assistive technology may, presses, toggles, focuses or writes into any
+// control or menu item of any window, behind dialogs included, where only
+// the window in front may act. The program's rules are checked whenever
+// the main window is in front, and the thousands of windows opened and
+// closed on the way must leave none behind (and LeakSanitizer, in the
+// sanitizer build, no memory).
 #include "apoyo_ui.h"
 #include "idioma.h"
 
 #include <algorithm>
+#include <iostream>
 #include <random>
 
 namespace {
@@ -26,6 +30,9 @@ class Jugador {
         }
         EXPECT_GT(mensajes_, 10); // the player reached every part of the program
         EXPECT_GT(finales_, acciones / 100);
+        EXPECT_GT(rechazadas_, acciones / 50);
+        std::cout << "assistive actions: " << asistidas_ << ", of them behind the window in front: "
+                  << rechazadas_ << "\n";
     }
 
   private:
@@ -50,6 +57,9 @@ class Jugador {
         if (!agotado || modal) // the last action ends the program
             QTimer::singleShot(0, &vida_, [this] { Actua(); });
         mensajes_ += qobject_cast<QMessageBox *>(modal) != nullptr; // the opponents' refusal
+        UnDialogo();
+        if (Dado(5) == 0)
+            return Asiste();
         QWidget *v = Delante();
         const QList<QLineEdit *> cajas = v->findChildren<QLineEdit *>();
         for (QLineEdit *caja : cajas)
@@ -73,6 +83,83 @@ class Jugador {
                 w, Una(QList{Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter, Qt::Key_Up}));
         }
         Clic(Una(v->findChildren<QAbstractButton *>()));
+    }
+
+    // At most one of the game's dialogs on screen, and a message box only
+    // over the opponents dialog.
+    static void UnDialogo()
+    {
+        int dialogos = 0;
+        for (QWidget *w : QApplication::topLevelWidgets()) {
+            if (!w->isVisible())
+                continue;
+            dialogos += dynamic_cast<Dialogo *>(w) != nullptr;
+            if (qobject_cast<QMessageBox *>(w)) {
+                ASSERT_TRUE(dynamic_cast<ui::DialogoOponentes *>(w->parentWidget()) &&
+                            w->parentWidget()->isVisible());
+            }
+        }
+        ASSERT_LE(dialogos, 1);
+    }
+
+    // An action through the accessibility interface on any control, window
+    // or menu item; one outside the window in front changes nothing.
+    void Asiste()
+    {
+        QList<QObject *> objetos;
+        for (QWidget *v : QApplication::topLevelWidgets()) {
+            objetos << v;
+            for (QWidget *w : v->findChildren<QWidget *>())
+                objetos << w;
+        }
+        if (Form1.Existe())
+            for (QAction *a : Form1().mnuOpciones->actions())
+                objetos << a;
+        QObject *o = Una(objetos);
+        QAccessibleInterface *i = Accesible(o);
+        if (!i)
+            return;
+        bool fuera = true;
+        for (QObject *p = o; p; p = p->parent())
+            fuera &= p != Delante();
+        const QString antes = Estado();
+        ++asistidas_;
+        auto *texto = i->editableTextInterface();
+        QStringList acciones = i->actionInterface()->actionNames();
+        acciones.removeAll(QAccessibleActionInterface::showMenuAction()); // no popups
+        if (texto && Dado(2))
+            texto->replaceText(0, i->textInterface()->characterCount(), Una(trozos_));
+        else if (!acciones.isEmpty())
+            i->actionInterface()->doAction(Una(acciones));
+        if (fuera) {
+            ++rechazadas_;
+            ASSERT_EQ(Estado().toStdString(), antes.toStdString())
+                << Describe(qobject_cast<QWidget *>(o)).toStdString();
+        }
+    }
+
+    // All a player or a program could tell of the state: the game's, and
+    // every window's texts, states, focus and pressed buttons.
+    static QString Estado()
+    {
+        QString s = QString::fromStdString(ComoTexto(Tablero) + Jugador1 + '|' + Jugador2) +
+                    QStringLiteral(" %1%2%3%4%5%6")
+                        .arg(Jugando)
+                        .arg(Nivel)
+                        .arg(Modo)
+                        .arg(Turno)
+                        .arg(Idioma)
+                        .arg(DesdeMenu);
+        for (QWidget *v : QApplication::topLevelWidgets()) {
+            s += QStringLiteral("\n%1 %2 %3 ")
+                     .arg(quintptr(v))
+                     .arg(v->isVisible())
+                     .arg(quintptr(v->focusWidget())) +
+                 Textos(v, false).join('|');
+            for (QAbstractButton *b : v->findChildren<QAbstractButton *>())
+                s += b->isDown() ? 'v' : '^';
+        }
+        return s;
     }
 
     // By key, input method, paste or code, as text reaches a box.
@@ -151,6 +238,8 @@ class Jugador {
     bool jugaba_ = false;
     int mensajes_ = 0;
     int finales_ = 0;
+    int asistidas_ = 0;
+    int rechazadas_ = 0;
 };
 
 class Aleatorio : public Programa, public ::testing::WithParamInterface<unsigned> {};

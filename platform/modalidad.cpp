@@ -1,0 +1,282 @@
+#include "modalidad.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDialog>
+#include <QPointer>
+#include <QTimer>
+#include <QWidget>
+
+namespace {
+
+// The windows shown modal, the last on top; each stays until its show returns.
+QList<QPointer<QDialog>> &Modales()
+{
+    static QList<QPointer<QDialog>> pila;
+    return pila;
+}
+
+QAccessibleInterface *Envuelve(QAccessibleInterface *interno);
+
+// An object's accessibility interface as Qt makes it, behind the guard: what
+// assistive technology reads goes through unchanged; what it does happens
+// only where the player can act.
+class Vigilado : public QAccessibleInterface,
+                 public QAccessibleActionInterface,
+                 public QAccessibleTextInterface,
+                 public QAccessibleEditableTextInterface,
+                 public QAccessibleImageInterface {
+  public:
+    explicit Vigilado(QAccessibleInterface *interno) : i_(interno), objeto_(interno->object()) {}
+    // Qt's cache deletes Qt's interface with its object, as it deletes this
+    // one; at the end of the program, in any order.
+    QAccessibleInterface *Interno() const { return i_; }
+
+    bool isValid() const override { return i_->isValid(); }
+    QObject *object() const override { return objeto_; }
+    QWindow *window() const override { return i_->window(); }
+    QList<QPair<QAccessibleInterface *, QAccessible::Relation>>
+    relations(QAccessible::Relation r) const override
+    {
+        auto lista = i_->relations(r);
+        for (auto &par : lista)
+            par.first = Envuelve(par.first);
+        return lista;
+    }
+    QAccessibleInterface *focusChild() const override { return Envuelve(i_->focusChild()); }
+    QAccessibleInterface *childAt(int x, int y) const override
+    {
+        return Envuelve(i_->childAt(x, y));
+    }
+    QAccessibleInterface *parent() const override { return Envuelve(i_->parent()); }
+    QAccessibleInterface *child(int n) const override { return Envuelve(i_->child(n)); }
+    int childCount() const override { return i_->childCount(); }
+    int indexOfChild(const QAccessibleInterface *hijo) const override
+    {
+        auto *v = dynamic_cast<const Vigilado *>(hijo);
+        return i_->indexOfChild(v ? v->i_ : hijo);
+    }
+    QString text(QAccessible::Text t) const override { return i_->text(t); }
+    void setText(QAccessible::Text t, const QString &texto) override
+    {
+        if (Alcanzable(object()))
+            i_->setText(t, texto);
+    }
+    QRect rect() const override { return i_->rect(); }
+    QAccessible::Role role() const override { return i_->role(); }
+    QAccessible::State state() const override { return i_->state(); }
+    QColor foregroundColor() const override { return i_->foregroundColor(); }
+    QColor backgroundColor() const override { return i_->backgroundColor(); }
+
+    void *interface_cast(QAccessible::InterfaceType t) override
+    {
+        if (!i_->interface_cast(t))
+            return nullptr;
+        switch (t) {
+        case QAccessible::ActionInterface:
+            return static_cast<QAccessibleActionInterface *>(this);
+        case QAccessible::TextInterface:
+            return static_cast<QAccessibleTextInterface *>(this);
+        case QAccessible::EditableTextInterface:
+            return static_cast<QAccessibleEditableTextInterface *>(this);
+        case QAccessible::ImageInterface:
+            return static_cast<QAccessibleImageInterface *>(this);
+        default: // none of the program's controls has another
+            return nullptr;
+        }
+    }
+
+    // Actions.
+    QStringList actionNames() const override { return i_->actionInterface()->actionNames(); }
+    QString localizedActionName(const QString &n) const override
+    {
+        return i_->actionInterface()->localizedActionName(n);
+    }
+    QString localizedActionDescription(const QString &n) const override
+    {
+        return i_->actionInterface()->localizedActionDescription(n);
+    }
+    QStringList keyBindingsForAction(const QString &n) const override
+    {
+        return i_->actionInterface()->keyBindingsForAction(n);
+    }
+    void doAction(const QString &n) override
+    {
+        if (!Alcanzable(object()))
+            return;
+        // Qt presses a button later, whatever has opened by then: the press
+        // is weighed again when it lands.
+        if (auto *b = qobject_cast<QAbstractButton *>(object()); b && n == pressAction()) {
+            if (b->isEnabled()) {
+                b->setDown(true);
+                QTimer::singleShot(100, b, [b] {
+                    b->setDown(false);
+                    if (Alcanzable(b))
+                        b->click();
+                });
+            }
+            return;
+        }
+        i_->actionInterface()->doAction(n);
+    }
+
+    // Text, read as it is; the cursor and selection move only where one may act.
+    QAccessibleTextInterface *T() const { return i_->textInterface(); }
+    void selection(int n, int *inicio, int *fin) const override { T()->selection(n, inicio, fin); }
+    int selectionCount() const override { return T()->selectionCount(); }
+    void addSelection(int inicio, int fin) override
+    {
+        if (Alcanzable(object()))
+            T()->addSelection(inicio, fin);
+    }
+    void removeSelection(int n) override
+    {
+        if (Alcanzable(object()))
+            T()->removeSelection(n);
+    }
+    void setSelection(int n, int inicio, int fin) override
+    {
+        if (Alcanzable(object()))
+            T()->setSelection(n, inicio, fin);
+    }
+    int cursorPosition() const override { return T()->cursorPosition(); }
+    void setCursorPosition(int p) override
+    {
+        if (Alcanzable(object()))
+            T()->setCursorPosition(p);
+    }
+    QString text(int inicio, int fin) const override { return T()->text(inicio, fin); }
+    QString textBeforeOffset(int p, QAccessible::TextBoundaryType b, int *inicio,
+                             int *fin) const override
+    {
+        return T()->textBeforeOffset(p, b, inicio, fin);
+    }
+    QString textAfterOffset(int p, QAccessible::TextBoundaryType b, int *inicio,
+                            int *fin) const override
+    {
+        return T()->textAfterOffset(p, b, inicio, fin);
+    }
+    QString textAtOffset(int p, QAccessible::TextBoundaryType b, int *inicio,
+                         int *fin) const override
+    {
+        return T()->textAtOffset(p, b, inicio, fin);
+    }
+    int characterCount() const override { return T()->characterCount(); }
+    QRect characterRect(int p) const override { return T()->characterRect(p); }
+    int offsetAtPoint(const QPoint &punto) const override { return T()->offsetAtPoint(punto); }
+    void scrollToSubstring(int inicio, int fin) override { T()->scrollToSubstring(inicio, fin); }
+    QString attributes(int p, int *inicio, int *fin) const override
+    {
+        return T()->attributes(p, inicio, fin);
+    }
+
+    // Editing.
+    void deleteText(int inicio, int fin) override
+    {
+        if (Alcanzable(object()))
+            i_->editableTextInterface()->deleteText(inicio, fin);
+    }
+    void insertText(int p, const QString &texto) override
+    {
+        if (Alcanzable(object()))
+            i_->editableTextInterface()->insertText(p, texto);
+    }
+    void replaceText(int inicio, int fin, const QString &texto) override
+    {
+        if (Alcanzable(object()))
+            i_->editableTextInterface()->replaceText(inicio, fin, texto);
+    }
+
+    // Pictures.
+    QAccessibleImageInterface *I() const
+    {
+        return static_cast<QAccessibleImageInterface *>(
+            i_->interface_cast(QAccessible::ImageInterface));
+    }
+    QString imageDescription() const override { return I()->imageDescription(); }
+    QSize imageSize() const override { return I()->imageSize(); }
+    QPoint imagePosition() const override { return I()->imagePosition(); }
+
+  private:
+    QAccessibleInterface *i_;
+    const QPointer<QObject> objeto_;
+};
+
+// The guarded interface for one Qt hands out, registered once: Qt makes some
+// (a menu's items) without asking the factories.
+QAccessibleInterface *Envuelve(QAccessibleInterface *interno)
+{
+    if (!interno || !interno->object() || dynamic_cast<Vigilado *>(interno))
+        return interno;
+    // The cache answers with the last interface registered for the object.
+    auto *hay = dynamic_cast<Vigilado *>(QAccessible::queryAccessibleInterface(interno->object()));
+    if (hay && hay->Interno() == interno)
+        return hay;
+    auto *v = new Vigilado(interno);
+    QAccessible::registerAccessibleInterface(v);
+    return v;
+}
+
+// Consulted first for every object: Qt's own interface, made by the other
+// factories and cached, goes behind the guard, which Qt caches after it.
+QAccessibleInterface *Fabrica(const QString &clase, QObject *objeto)
+{
+    static bool creando = false;
+    if (creando || clase != QLatin1String(objeto->metaObject()->className()))
+        return nullptr;
+    creando = true;
+    QAccessibleInterface *interno = QAccessible::queryAccessibleInterface(objeto);
+    creando = false;
+    return interno ? new Vigilado(interno) : nullptr;
+}
+
+// While a window is shown modal, one behind it is not closed, whatever asks.
+class GuardaCierres : public QObject {
+  protected:
+    bool eventFilter(QObject *o, QEvent *e) override
+    {
+        if (e->type() != QEvent::Close || !o->isWidgetType() || Modales().isEmpty() ||
+            Alcanzable(o))
+            return false;
+        e->ignore();
+        return true;
+    }
+};
+
+} // namespace
+
+void ProtegeModalidad()
+{
+    static const bool cierres = [] {
+        qApp->installEventFilter(new GuardaCierres);
+        return true;
+    }();
+    Q_UNUSED(cierres)
+    // On top of the factories, also of any installed since.
+    QAccessible::removeFactory(Fabrica);
+    QAccessible::installFactory(Fabrica);
+}
+
+int EjecutaModal(QDialog *ventana)
+{
+    Modales().append(ventana);
+    const int resultado = ventana->exec();
+    Modales().removeLast(); // shows return in the reverse order of their start
+    return resultado;
+}
+
+bool Alcanzable(const QObject *objeto)
+{
+    // A modal window deleted before its show returned still holds the top.
+    const QList<QPointer<QDialog>> &pila = Modales();
+    const QObject *arriba = nullptr;
+    for (const QObject *o = objeto; o; o = o->parent()) {
+        if (!pila.isEmpty() && o == pila.last().data())
+            return true;
+        arriba = o;
+    }
+    auto *ventana = qobject_cast<const QWidget *>(arriba);
+    return pila.isEmpty() && ventana && ventana->isVisible();
+}

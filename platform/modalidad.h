@@ -1,0 +1,22 @@
+#pragma once
+// While a window is shown modal, nothing outside it acts, whatever drives the
+// program. Qt's modality stops the keyboard, the mouse and the window
+// manager's close button; an assistive technology reaches widgets and menu
+// items directly (AT-SPI actions click, trigger, toggle, focus and set text),
+// so every object's accessibility interface goes through one guard here.
+
+class QDialog;
+class QObject;
+
+// Once, after the application object and before any window: from then on
+// assistive technology acts only where the player can.
+void ProtegeModalidad();
+
+// Shows the window modal and returns once it has been closed. Until then
+// (also in the moment between its hiding and the return) only the window and
+// what it opens take any action.
+int EjecutaModal(QDialog *ventana);
+
+// Whether an action on the object may run now: it belongs to the topmost
+// modal window, or, with none open, to a window on screen.
+bool Alcanzable(const QObject *objeto);
