@@ -1,6 +1,8 @@
 #include "escritorio.h"
 
+#include <QFileInfo>
 #include <QGuiApplication>
+#include <QLibraryInfo>
 #include <QPlatformSurfaceEvent>
 #include <QWindow>
 #include <QtGui/qguiapplication_platform.h>
@@ -8,6 +10,7 @@
 #include <wayland-client.h>
 #include <xcb/xcb.h>
 
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 
@@ -15,24 +18,6 @@ namespace {
 
 // The desktop entry's id: org.supertirlo.SuperTirlo.desktop.
 constexpr char kIdEntrada[] = "org.supertirlo.SuperTirlo";
-
-// True when the compositor offers to draw the windows' frames itself.
-bool CompositorEnmarca(wl_display *compositor)
-{
-    bool enmarca = false;
-    static const wl_registry_listener oyente{
-        [](void *dato, wl_registry *, uint32_t, const char *interfaz, uint32_t) {
-            *static_cast<bool *>(dato) |=
-                !std::strcmp(interfaz, "zxdg_decoration_manager_v1") ||
-                !std::strcmp(interfaz, "org_kde_kwin_server_decoration_manager");
-        },
-        [](void *, wl_registry *, uint32_t) {}};
-    wl_registry *registro = wl_display_get_registry(compositor);
-    wl_registry_add_listener(registro, &oyente, &enmarca);
-    wl_display_roundtrip(compositor);
-    wl_registry_destroy(registro);
-    return enmarca;
-}
 
 // Sets the desktop-file hints of every X11 window as it is created: GNOME
 // reads the first, KDE the second.
@@ -70,18 +55,67 @@ class NombraVentanasX11 : public QObject {
     xcb_atom_t atomos_[3];
 };
 
+// Why no window can open on X11, or nothing if one can.
+QString RazonSinX()
+{
+    const QByteArray pantalla = qgetenv("DISPLAY");
+    if (pantalla.isEmpty())
+        return QStringLiteral("X11: DISPLAY is not set");
+    xcb_connection_t *x = xcb_connect(nullptr, nullptr);
+    const bool rechazado = xcb_connection_has_error(x);
+    xcb_disconnect(x);
+    return rechazado ? QStringLiteral("X11: the display %1 refused the connection")
+                           .arg(QString::fromLocal8Bit(pantalla))
+                     : QString();
+}
+
+// Why no window can open on Wayland, or nothing if one can.
+QString RazonSinWayland()
+{
+    const QByteArray nombre = qgetenv("WAYLAND_DISPLAY");
+    const QString socket = nombre.isEmpty() ? QStringLiteral("wayland-0")
+                                            : QString::fromLocal8Bit(nombre);
+    // The library's own complaints would add lines of their own.
+    wl_log_set_handler_client([](const char *, va_list) {});
+    wl_display *compositor = wl_display_connect(nullptr);
+    if (!compositor)
+        return QStringLiteral("Wayland: no compositor at %1").arg(socket);
+    wl_display_disconnect(compositor);
+    const QString plugin = QLibraryInfo::path(QLibraryInfo::PluginsPath) +
+                           QStringLiteral("/platforms/libqwayland-generic.so");
+    return QFileInfo::exists(plugin)
+               ? QString()
+               : QStringLiteral("Wayland: Qt's Wayland plugin (package qt6-wayland) is not installed");
+}
+
 } // namespace
 
-void EligeSistemaDeVentanas()
+bool EligeSistemaDeVentanas()
 {
-    if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") || qEnvironmentVariableIsEmpty("DISPLAY") ||
-        qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
-        return;
-    if (wl_display *compositor = wl_display_connect(nullptr)) {
-        if (!CompositorEnmarca(compositor))
-            qputenv("QT_QPA_PLATFORM", "xcb");
-        wl_display_disconnect(compositor);
+    const QByteArray pedido = qgetenv("QT_QPA_PLATFORM");
+    // The desktop's X server first, where there is one, XWayland included:
+    // its window manager frames every window as designed, and minimises a
+    // dialog together with the window it belongs to.
+    const QList<QByteArray> sistemas = pedido.isEmpty() ? QList<QByteArray>{"xcb", "wayland"}
+                                                        : pedido.split(';');
+    QStringList probados;
+    for (const QByteArray &sistema : sistemas) {
+        const QByteArray nombre = sistema.split(':').first();
+        QString razon;
+        if (nombre == "xcb")
+            razon = RazonSinX();
+        else if (nombre == "wayland")
+            razon = RazonSinWayland();
+        if (razon.isEmpty()) {
+            if (pedido.isEmpty())
+                qputenv("QT_QPA_PLATFORM", sistema);
+            return true;
+        }
+        probados << razon;
     }
+    std::fprintf(stderr, "supertirlo: no display to open a window on: %s\n",
+                 qPrintable(probados.join(QStringLiteral("; "))));
+    return false;
 }
 
 void IdentificaPrograma()

@@ -37,6 +37,14 @@ dpkg-deb -x "$deb" "$scratch/root"
 binary=$scratch/root/usr/games/supertirlo
 test -x "$binary"
 
+# With no display at all, nor a choice of its own: one line that says what
+# was tried, and status 1, not an abort.
+status=0
+env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM XDG_RUNTIME_DIR="$scratch" "$binary" \
+    > "$scratch/out" 2> "$scratch/err" || status=$?
+[ $status = 1 ] && [ ! -s "$scratch/out" ] && [ "$(wc -l < "$scratch/err")" = 1 ]
+grep -qx 'supertirlo: no display to open a window on: X11: DISPLAY is not set; Wayland: no compositor at wayland-0' "$scratch/err"
+
 # Started on its own display: the language window comes up, named after the
 # desktop entry; Enter opens the main window, and the level dialog opens
 # transient for it; Exit ends the program with status 0.
@@ -68,17 +76,27 @@ for _ in \$(seq 50); do kill -0 \$game 2> /dev/null || break; sleep 0.1; done
 if kill -0 \$game 2> /dev/null; then echo 'still running after Exit'; kill \$game; exit 1; fi
 wait \$game
 
-# Beside a Wayland compositor that leaves the frames to its clients, the
-# game opens on the X display; told to use Wayland, it names its entry.
+# Beside a Wayland compositor, the game opens on the X display; where the X
+# server refuses it, on Wayland; told to use Wayland, it does, and names its
+# entry; told to use X where X refuses, it says so.
 bash "$(dirname "$0")/weston.sh" bash -ec '
+    wayland() { # the game, in this environment, on Wayland: its first window has its title and app id
+        env "\$@" WAYLAND_DEBUG=1 "$binary" 2> "$scratch/wayland.log" & game=\$!
+        until grep -q set_app_id "$scratch/wayland.log"; do sleep 0.1; done
+        kill \$game
+        grep -q "set_title(\"Selección de idioma\")" "$scratch/wayland.log"
+        grep -q "set_app_id(\"$id\")" "$scratch/wayland.log"
+    }
     env -u QT_QPA_PLATFORM XDG_SESSION_TYPE=wayland "$binary" & game=\$!
     timeout 10 xdotool search --sync --onlyvisible --name idioma > /dev/null ||
         { echo "the game did not open on the X display"; exit 1; }
     kill \$game
-    WAYLAND_DEBUG=1 QT_QPA_PLATFORM=wayland "$binary" 2> "$scratch/wayland.log" & game=\$!
-    until grep -q set_app_id "$scratch/wayland.log"; do sleep 0.1; done
-    kill \$game
-    grep -q "set_app_id(\"$id\")" "$scratch/wayland.log"'
+    wayland -u QT_QPA_PLATFORM XAUTHORITY=/nonexistent
+    wayland QT_QPA_PLATFORM=wayland
+    status=0
+    XAUTHORITY=/nonexistent QT_QPA_PLATFORM=xcb timeout 10 "$binary" 2> "$scratch/x.log" || status=\$?
+    [ \$status = 1 ]
+    grep -qx "supertirlo: no display to open a window on: X11: the display \$DISPLAY refused the connection" "$scratch/x.log"'
 SESION
 xvfb-run -a -s '-screen 0 1024x768x24 -nolisten tcp' bash "$scratch/sesion.sh"
 echo "installed tree, package and packaged binary: fine"

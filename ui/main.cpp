@@ -9,7 +9,8 @@ int main(int, char *argv[])
     // The game takes no arguments: not even the toolkit's own options are read.
     int argc = 1;
     char *soloPrograma[] = {argv[0], nullptr};
-    EligeSistemaDeVentanas();
+    if (!EligeSistemaDeVentanas())
+        return 1;
     QApplication app(argc, soloPrograma);
     ProtegeModalidad();
     IdentificaPrograma();
