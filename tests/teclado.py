@@ -12,6 +12,7 @@ import os
 import re
 import subprocess
 import sys
+import threading
 import time
 
 import pyatspi
@@ -220,13 +221,26 @@ def mensaje(orca, titulo, texto, boton):
     cerrada(titulo)
 
 
-def nivel_por_teclado(orca, actual, flechas, nuevo, titulo):
+def nivel_por_teclado(orca, actual, flechas, nuevo, titulo, detras=None):
     """The level dialog from the menu: Tab lands on the level in force, the
     arrows select, Enter is OK; Orca says each option and its state, then
-    the new title, and the new game."""
+    the new title, and the new game. With `detras` (the main window), Exit
+    and About are first pressed there over the accessibility bus, as a
+    screen reader or a voice control may: nothing happens, and the dialog
+    still takes the keys."""
     menu(orca, "l")
     d = ventana("Level")
     foco_es(d, "push button", "Ok")
+    if detras:
+        for nombre in ("About...", "Exit"):
+            item = next(n for n in nodos(detras) if n.getRoleName() == "menu item"
+                        and n.name == nombre)
+            # A press that opened a dialog would not answer until it closed.
+            threading.Thread(target=item.queryAction().doAction, args=(0,), daemon=True).start()
+        time.sleep(1)
+        assert programa() and [v.name for v in ventanas()] == [detras.name, "Level"], \
+            [v.name for v in ventanas()]
+        foco_es(d, "push button", "Ok")
     teclas("Tab")
     foco_es(d, "radio button", actual, checked=True)
     orca.marca()
@@ -279,7 +293,7 @@ def main():
         partida(p, orca)
 
         # The level dialog at each level.
-        nivel_por_teclado(orca, "You can not win", ["Up"], "Medium", "The tic tac toe (Level 2)")
+        nivel_por_teclado(orca, "You can not win", ["Up"], "Medium", "The tic tac toe (Level 2)", p)
         nivel_por_teclado(orca, "Medium", ["Up"], "Easy", "The tic tac toe (Level 1)")
         nivel_por_teclado(orca, "Easy", ["Down", "Down"], "You can not win",
                           "The tic tac toe (Level 3)")
