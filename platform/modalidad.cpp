@@ -234,6 +234,9 @@ QAccessibleInterface *Fabrica(const QString &clase, QObject *objeto)
 
 // While a window is shown modal, one behind it is not closed, whatever asks.
 class GuardaCierres : public QObject {
+  public:
+    using QObject::QObject;
+
   protected:
     bool eventFilter(QObject *o, QEvent *e) override
     {
@@ -250,7 +253,7 @@ class GuardaCierres : public QObject {
 void ProtegeModalidad()
 {
     static const bool cierres = [] {
-        qApp->installEventFilter(new GuardaCierres);
+        qApp->installEventFilter(new GuardaCierres(qApp));
         return true;
     }();
     Q_UNUSED(cierres)

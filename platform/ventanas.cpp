@@ -16,6 +16,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
+#include <QStatusBar>
 #include <QTextBoundaryFinder>
 #include <QTranslator>
 #include <QWindow>
@@ -101,6 +102,13 @@ void EstiloPanel(QFrame *panel, const QRect &geometria)
     panel->setPalette(p);
 }
 
+// A direction isolate (U+2066 to U+2069): the messages isolate each name
+// themselves, and no text that assistive technology reads may hold one.
+bool Aislante(QChar c)
+{
+    return c.unicode() >= 0x2066 && c.unicode() <= 0x2069;
+}
+
 } // namespace
 
 QFrame *CreaPanel(QWidget *padre, const QRect &geometria)
@@ -123,11 +131,16 @@ void Panel3D::Caption(const QString &texto)
     setText(texto);
     // Read without the marks that isolate a name: setting the name also
     // tells assistive technology that it changed.
-    setAccessibleName(QString(texto).remove(QChar(0x2068)).remove(QChar(0x2069)));
+    setAccessibleName(QString(texto).removeIf(Aislante));
 }
 
-Avisador::Avisador(QWidget *ventana) : QObject(ventana), ventana_(ventana)
+Avisador::Avisador(QWidget *ventana)
+    : QObject(ventana), ventana_(ventana), barra_(new QStatusBar(ventana))
 {
+    // The messages are notifications in a status bar that draws nothing: a
+    // screen reader then reads each one alone, not the whole dialog again.
+    barra_->setSizeGripEnabled(false);
+    barra_->setGeometry(0, 0, 0, 0);
     // Screen readers speak an object of the notification role as it appears.
     static const bool rol = [] {
         QAccessible::installFactory([](const QString &, QObject *o) -> QAccessibleInterface * {
@@ -145,8 +158,10 @@ Avisador::Avisador(QWidget *ventana) : QObject(ventana), ventana_(ventana)
 void Avisador::Avisa(const QString &mensaje)
 {
     pendiente_ = mensaje;
+    // After what the control that brought it says of itself (the option a
+    // key selects, its new focus), which the toolkit tells first.
     if (ventana_->isActiveWindow())
-        Muestra();
+        QMetaObject::invokeMethod(this, &Avisador::Muestra, Qt::QueuedConnection);
 }
 
 bool Avisador::eventFilter(QObject *, QEvent *e)
@@ -162,10 +177,17 @@ void Avisador::Muestra()
     if (pendiente_.isEmpty())
         return;
     delete anterior_;
-    anterior_ = new QWidget(ventana_);
+    anterior_ = new QWidget(barra_);
     anterior_->setObjectName(QStringLiteral("aviso"));
     anterior_->resize(0, 0); // it draws nothing and takes no clicks
-    anterior_->setAccessibleName(std::exchange(pendiente_, QString()));
+    // Screen readers speak a notification's name or the labels in it; a
+    // braille display and the reader's message history take only the labels,
+    // hidden ones too in a status bar, where they are not read a second time
+    // as texts of the window.
+    auto *texto = new QLabel(std::exchange(pendiente_, QString()), anterior_);
+    texto->setTextFormat(Qt::PlainText);
+    texto->resize(0, 0);
+    texto->hide();
     anterior_->show();
 }
 
@@ -222,7 +244,7 @@ QString Primeros(const QString &texto, qsizetype n)
 }
 
 // What a one-line box takes of a text: its first line, without control
-// characters and without half of a surrogate pair.
+// characters, direction isolates and half of a surrogate pair.
 QString UnaLinea(const QString &texto)
 {
     QString linea;
@@ -233,7 +255,7 @@ QString UnaLinea(const QString &texto)
             break;
         if (c.isHighSurrogate() && i + 1 < texto.size() && texto[i + 1].isLowSurrogate())
             linea += texto.mid(i++, 2);
-        else if (!c.isSurrogate() && c.category() != QChar::Other_Control)
+        else if (!c.isSurrogate() && c.category() != QChar::Other_Control && !Aislante(c))
             linea += c;
     }
     return linea;

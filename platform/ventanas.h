@@ -17,6 +17,7 @@
 class QButtonGroup;
 class QPushButton;
 class QRadioButton;
+class QStatusBar;
 
 // Twips to pixels: 1440 twips to the inch at 96 logical dots per inch.
 constexpr int Tw(int twips)
@@ -110,8 +111,8 @@ class Panel3D : public QLabel {
 };
 
 // Says a message to a screen reader, once: each message is a new
-// notification in the window, which screen readers speak as it appears; the
-// one before goes. A message for a window that is not active waits until it
+// notification in the window, which screen readers speak, and show on a
+// braille display, as it appears; the one before goes. A message for a window that is not active waits until it
 // is, so that it follows what the screen reader says of the window itself.
 class Avisador : public QObject {
   public:
@@ -124,6 +125,7 @@ class Avisador : public QObject {
   private:
     void Muestra();
     QWidget *ventana_;
+    QStatusBar *barra_;
     QString pendiente_;
     QPointer<QWidget> anterior_;
 };
@@ -146,7 +148,8 @@ class GrupoOpciones {
 // A single-line text box whose KeyDown handler sees every key first; Enter
 // arrives as key code 13 and goes no further. However text comes in (keys,
 // an input method, paste, code), the box holds one line without control
-// characters, of at most `largoMaximo` characters as a person counts them:
+// characters or direction isolates, of at most `largoMaximo` characters as
+// a person counts them:
 // an accent stays with its letter, an emoji sequence is never split.
 class CajaTexto : public QLineEdit {
   public:

@@ -37,16 +37,25 @@ def espera(condicion, que, segundos=10):
 
 
 class Orca:
-    """What Orca says, from the lines SPEECH OUTPUT of its debug file."""
+    """What Orca says and shows, from the lines SPEECH OUTPUT and BRAILLE
+    LINE of its debug file."""
 
     def __init__(self, archivo):
         self.archivo, self.desde, self.avisos = archivo, 0, 0
 
-    def dicho(self):
-        """All it said since the last mark."""
+    def lineas(self, clase):
+        """All it said, or put on the braille display, since the last mark."""
         with open(self.archivo, encoding="utf-8", errors="replace") as f:
             f.seek(self.desde)
-            return re.findall(r"SPEECH OUTPUT: '(.*)' ?\{'established", f.read())
+            texto = f.read()
+        if clase == "braille":
+            return re.findall(r"BRAILLE LINE:  '(.*)'", texto)
+        if clase == "historia":  # how many notifications it keeps
+            return re.findall(r"saveMessage \(queue length: (\d+)\)", texto)
+        return re.findall(r"SPEECH OUTPUT: '(.*)' ?\{'established", texto)
+
+    def dicho(self):
+        return self.lineas("speech")
 
     def marca(self):
         self.desde = os.path.getsize(self.archivo)
@@ -62,13 +71,18 @@ class Orca:
         espera(oido, lambda: "Orca to say %s; it said %s" % (list(textos), self.dicho()), segundos)
 
     def aviso(self, esperado):
-        """The notification that tells what the last key did: once it is
-        heard, the state it tells of is there to read, and `esperado` says
-        what it must be."""
-        oido = espera(lambda: [d for d in self.dicho() if d.startswith("notification ")],
-                      lambda: "a notification; Orca said %s" % self.dicho())
+        """The notification that tells what the last key did, spoken once
+        and shown on the braille display: once it is heard, the state it
+        tells of is there to read, and `esperado` says what it must be."""
+        texto = espera(lambda: self.lineas("historia") and esperado().rstrip("."),
+                       lambda: "a notification; Orca said %s" % self.dicho())
         self.avisos += 1
-        assert oido[0].rstrip(".") == "notification " + esperado().rstrip("."), (oido, esperado())
+        dicho = [d for d in self.dicho() if d.rstrip(".") == texto]
+        assert len(dicho) == 1, (texto, self.dicho())
+        # On the display, and kept in the history Orca's commands read back.
+        assert texto in self.lineas("braille"), (texto, self.lineas("braille"))
+        assert self.lineas("historia")[-1:] == [str(min(self.avisos, 55))], self.lineas("historia")
+        print("braille:", texto)
 
 
 def nodos(nodo):
@@ -168,7 +182,9 @@ def casillas(p):
 
 
 def panel(p):
-    return next(n.name for n in nodos(p) if n.getRoleName() == "label")
+    """The status panel: the label on screen (a notification's is hidden)."""
+    return next(n.name for n in nodos(p) if n.getRoleName() == "label"
+                and n.getState().contains(pyatspi.STATE_SHOWING))
 
 
 def anuncio(p, orca, antes=None, casilla=None):
@@ -204,7 +220,7 @@ def partida(p, orca):
     teclas("Return")
     tab(p)
     orca.oye(enfocado(p).name)
-    assert not [d for d in orca.dicho() if d.startswith("notification")], orca.dicho()
+    assert not orca.lineas("historia"), orca.dicho()
 
 
 def mensaje(orca, titulo, texto, boton):
@@ -253,9 +269,10 @@ def nivel_por_teclado(orca, actual, flechas, nuevo, titulo, detras=None):
     anuncio(ventana(titulo), orca)
 
 
-def idioma_por_teclado(orca, titulo, aceptar, actual, flecha, nueva):
+def idioma_por_teclado(orca, titulo, aceptar, actual, flecha, nueva, cambio):
     """The language window: Tab, Tab lands on the language in force; the
-    arrow selects the other one at once, and Orca says it."""
+    arrow selects the other one at once, and Orca says it, then the window's
+    new title and text (`cambio`)."""
     s = ventana(titulo)
     foco_es(s, "push button", aceptar)
     teclas("Tab", "Tab")
@@ -264,6 +281,7 @@ def idioma_por_teclado(orca, titulo, aceptar, actual, flecha, nueva):
     teclas(flecha)
     foco_es(s, "radio button", nueva, checked=True)
     orca.oye(nueva, "selected radio button")
+    orca.aviso(lambda: cambio)
 
 
 def main():
@@ -276,7 +294,8 @@ def main():
         ventana("Selección de idioma")
         activa("Selección de idioma")
         orca.oye("Selección de idioma dialog", "Aceptar push button")
-        idioma_por_teclado(orca, "Selección de idioma", "Aceptar", "Español", "Up", "English")
+        idioma_por_teclado(orca, "Selección de idioma", "Aceptar", "Español", "Up", "English",
+                           "Idiom selection. Thank you for to play my game")
         ventana("Idiom selection")
         orca.marca()
         teclas("Return")
@@ -311,7 +330,8 @@ def main():
         # The language from the menu: Tab lands on English, the selected one;
         # Down switches to Spanish at once; Enter accepts.
         menu(orca, "i")
-        idioma_por_teclado(orca, "Idiom selection", "Ok", "English", "Down", "Español")
+        idioma_por_teclado(orca, "Idiom selection", "Ok", "English", "Down", "Español",
+                           "Selección de idioma. Gracias por jugar mi juego")
         p = ventana("El famoso juego del tirlo (Nivel 3)")
         teclas("Return")
         cerrada("Selección de idioma")
@@ -348,8 +368,7 @@ def main():
 
         # Every notification was one of those awaited: none stale, none twice.
         orca.desde = 0
-        avisos = [d for d in orca.dicho() if d.startswith("notification")]
-        assert len(avisos) == orca.avisos, avisos
+        assert orca.lineas("historia")[-1:] == [str(min(orca.avisos, 55))], orca.avisos
 
         menu(orca, "s")
         assert juego.wait(timeout=10) == 0

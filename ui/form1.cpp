@@ -33,11 +33,14 @@ class Superficie : public QWidget {
 
 // A player's name inside a message, isolated from the text around it (first
 // strong isolate ... pop directional isolate): whatever its script or its
-// direction marks, the message keeps its own order around it.
+// direction marks, the message keeps its own order around it. An empty name
+// needs nothing.
 QString Nombre(const std::string &jugador, bool recortado = false)
 {
-    const QString nombre = QString::fromStdString(jugador);
-    return QChar(0x2068) + (recortado ? Trim(nombre) : nombre) + QChar(0x2069);
+    QString nombre = QString::fromStdString(jugador);
+    if (recortado)
+        nombre = Trim(nombre);
+    return nombre.isEmpty() ? nombre : QChar(0x2068) + nombre + QChar(0x2069);
 }
 
 } // namespace
@@ -140,7 +143,9 @@ void VentanaPrincipal::AvisaLector(const std::array<QString, 9> &antes, Integer 
     for (int k = 0; k < 9; ++k)
         if (k != jugada && cmdtir[k]->text() != antes[k] && !cmdtir[k]->text().isEmpty())
             partes << cmdtir[k]->accessibleName();
-    avisos_->Avisa((partes << Panel->accessibleName()).join(QStringLiteral(". ")));
+    partes << Panel->accessibleName();
+    partes.removeAll(QString()); // an empty message, as two nameless players get, says nothing
+    avisos_->Avisa(partes.join(QStringLiteral(". ")));
 }
 
 void VentanaPrincipal::JuegaCasilla(Integer Index)
@@ -228,8 +233,11 @@ void VentanaPrincipal::ActualizaAccesibles()
         QPushButton *b = cmdtir[k];
         if (const QString nombre = NombreCasilla(k, b->text()); b->accessibleName() != nombre)
             b->setAccessibleName(nombre);
-        if (b->accessibleDescription() != DescripcionCasilla())
-            b->setAccessibleDescription(DescripcionCasilla());
+        // An invitation to play only where a press plays.
+        const QString descripcion =
+            Jugando && b->text().isEmpty() ? DescripcionCasilla() : QString();
+        if (b->accessibleDescription() != descripcion)
+            b->setAccessibleDescription(descripcion);
     }
 }
 

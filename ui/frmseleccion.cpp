@@ -67,6 +67,10 @@ void VentanaIdioma::EligeIdioma(const QString &aceptar, const QString &salir, In
     CargaIdioma();
     if (DesdeMenu)
         AplicaIdioma();
+    // A screen reader says the option; the window's new title and text are
+    // told once, in the new language. The load's own choice is not a switch.
+    if (isVisible())
+        avisos_->Avisa(windowTitle() + QStringLiteral(". ") + lblGracias->text());
 }
 
 void VentanaIdioma::cmdAceptar_Click()

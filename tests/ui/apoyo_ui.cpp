@@ -101,6 +101,8 @@ QStringList Textos(QWidget *v, bool lugar)
     QStringList t{v->windowTitle() + Fondo(v) + (fija ? QStringLiteral(" fixed") : QString()) +
                   (lugar ? QString::asprintf(" %dx%d", cliente.width(), cliente.height()) : "")};
     for (QWidget *w : v->findChildren<QWidget *>()) {
+        if (w->size().isEmpty()) // a screen reader's notification: nothing to see
+            continue;
         QString s = Describe(w);
         if (lugar && !s.isEmpty() && !qobject_cast<QMenu *>(w)) {
             const QFont f = w->font();
