@@ -17,7 +17,6 @@
 class QButtonGroup;
 class QPushButton;
 class QRadioButton;
-class QStatusBar;
 
 // Twips to pixels: 1440 twips to the inch at 96 logical dots per inch.
 constexpr int Tw(int twips)
@@ -108,26 +107,6 @@ class Panel3D : public QLabel {
     // Shows the text and tells assistive technology that it changed, so a
     // screen reader announces every new message.
     void Caption(const QString &texto);
-};
-
-// Says a message to a screen reader, once: each message is a new
-// notification in the window, which screen readers speak, and show on a
-// braille display, as it appears; the one before goes. A message for a window that is not active waits until it
-// is, so that it follows what the screen reader says of the window itself.
-class Avisador : public QObject {
-  public:
-    explicit Avisador(QWidget *ventana);
-    void Avisa(const QString &mensaje);
-
-  protected:
-    bool eventFilter(QObject *o, QEvent *e) override;
-
-  private:
-    void Muestra();
-    QWidget *ventana_;
-    QStatusBar *barra_;
-    QString pendiente_;
-    QPointer<QWidget> anterior_;
 };
 
 // Option buttons in one container: exactly one selected.

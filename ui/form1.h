@@ -2,6 +2,7 @@
 // The main window: the board, the status panel, the new-game button and the
 // Options menu.
 
+#include "avisos.h"
 #include "ventanas.h"
 
 #include <QMainWindow>

@@ -2,6 +2,7 @@
 // The language window: first window of every run, and reopened from the menu
 // to switch the language of every window at once.
 
+#include "avisos.h"
 #include "ventanas.h"
 
 class QLabel;

@@ -1,0 +1,67 @@
+#include "avisos.h"
+
+#include "modalidad.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+#include <QEvent>
+#include <QLabel>
+#include <QStatusBar>
+#include <QWidget>
+
+Avisador::Avisador(QWidget *ventana)
+    : QObject(ventana), ventana_(ventana), barra_(new QStatusBar(ventana))
+{
+    // The messages are notifications in a status bar that draws nothing: a
+    // screen reader then reads each one alone, not the whole dialog again.
+    barra_->setSizeGripEnabled(false);
+    barra_->setGeometry(0, 0, 0, 0);
+    // Screen readers speak an object of the notification role as it appears.
+    static const bool rol = [] {
+        QAccessible::installFactory([](const QString &, QObject *o) -> QAccessibleInterface * {
+            return o->objectName() == QLatin1String("aviso")
+                       ? new QAccessibleWidget(static_cast<QWidget *>(o), QAccessible::Notification)
+                       : nullptr;
+        });
+        ProtegeModalidad(); // the guard goes back in front of every factory
+        return true;
+    }();
+    Q_UNUSED(rol)
+    ventana_->installEventFilter(this);
+}
+
+void Avisador::Avisa(const QString &mensaje)
+{
+    pendiente_ = mensaje;
+    // After what the control that brought it says of itself (the option a
+    // key selects, its new focus), which the toolkit tells first.
+    if (ventana_->isActiveWindow())
+        QMetaObject::invokeMethod(this, &Avisador::Muestra, Qt::QueuedConnection);
+}
+
+bool Avisador::eventFilter(QObject *, QEvent *e)
+{
+    // After the window's own activation has been told.
+    if (e->type() == QEvent::WindowActivate && !pendiente_.isEmpty())
+        QMetaObject::invokeMethod(this, &Avisador::Muestra, Qt::QueuedConnection);
+    return false;
+}
+
+void Avisador::Muestra()
+{
+    if (pendiente_.isEmpty())
+        return;
+    delete anterior_;
+    anterior_ = new QWidget(barra_);
+    anterior_->setObjectName(QStringLiteral("aviso"));
+    anterior_->resize(0, 0); // it draws nothing and takes no clicks
+    // Screen readers speak a notification's name or the labels in it; a
+    // braille display and the reader's message history take only the labels,
+    // hidden ones too in a status bar, where they are not read a second time
+    // as texts of the window.
+    auto *texto = new QLabel(std::exchange(pendiente_, QString()), anterior_);
+    texto->setTextFormat(Qt::PlainText);
+    texto->resize(0, 0);
+    texto->hide();
+    anterior_->show();
+}
