@@ -58,6 +58,15 @@ class Orca:
         return self.lineas("speech")
 
     def marca(self):
+        """From here on; first Orca catches up with what came before, as a
+        player waits for the screen reader: behind a long queue of events
+        Orca drops notifications (its flood guard)."""
+        tamano, inicio = -1, time.time()
+        quieto = inicio
+        while time.time() - quieto < 0.2 and time.time() - inicio < 10:
+            if os.path.getsize(self.archivo) != tamano:
+                tamano, quieto = os.path.getsize(self.archivo), time.time()
+            time.sleep(0.05)
         self.desde = os.path.getsize(self.archivo)
 
     def oye(self, *textos, segundos=10):
