@@ -73,8 +73,8 @@ QString RazonSinX()
 QString RazonSinWayland()
 {
     const QByteArray nombre = qgetenv("WAYLAND_DISPLAY");
-    const QString socket = nombre.isEmpty() ? QStringLiteral("wayland-0")
-                                            : QString::fromLocal8Bit(nombre);
+    const QString socket =
+        nombre.isEmpty() ? QStringLiteral("wayland-0") : QString::fromLocal8Bit(nombre);
     // The library's own complaints would add lines of their own.
     wl_log_set_handler_client([](const char *, va_list) {});
     wl_display *compositor = wl_display_connect(nullptr);
@@ -85,7 +85,8 @@ QString RazonSinWayland()
                            QStringLiteral("/platforms/libqwayland-generic.so");
     return QFileInfo::exists(plugin)
                ? QString()
-               : QStringLiteral("Wayland: Qt's Wayland plugin (package qt6-wayland) is not installed");
+               : QStringLiteral(
+                     "Wayland: Qt's Wayland plugin (package qt6-wayland) is not installed");
 }
 
 } // namespace
@@ -96,8 +97,8 @@ bool EligeSistemaDeVentanas()
     // The desktop's X server first, where there is one, XWayland included:
     // its window manager frames every window as designed, and minimises a
     // dialog together with the window it belongs to.
-    const QList<QByteArray> sistemas = pedido.isEmpty() ? QList<QByteArray>{"xcb", "wayland"}
-                                                        : pedido.split(';');
+    const QList<QByteArray> sistemas =
+        pedido.isEmpty() ? QList<QByteArray>{"xcb", "wayland"} : pedido.split(';');
     QStringList probados;
     for (const QByteArray &sistema : sistemas) {
         const QByteArray nombre = sistema.split(':').first();

@@ -195,9 +195,10 @@ class Guion {
             QWidget *debajo = Delante()->parentWidget() ? Delante()->parentWidget() : &Form1();
             const QString que = p.value(0);
             const int i = p.value(1).toInt();
-            QObject *o = que == "sq"       ? static_cast<QObject *>(Form1().cmdtir[i])
-                         : que == "button" ? static_cast<QObject *>(debajo->findChildren<QPushButton *>().at(i))
-                                           : Item(p.value(1));
+            QObject *o = que == "sq" ? static_cast<QObject *>(Form1().cmdtir[i])
+                         : que == "button"
+                             ? static_cast<QObject *>(debajo->findChildren<QPushButton *>().at(i))
+                             : Item(p.value(1));
             Accesible(o)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
         } else if (orden == "close") {
             Delante()->close();
@@ -234,8 +235,7 @@ class Guion {
         } else if (orden == "board") { // as a screen reader reads the squares: X, 0 or empty
             QString s;
             for (QPushButton *b : Form1().cmdtir)
-                s +=
-                    Nombre(b).section(": ", 1).left(1).replace(QRegularExpression("[^X0]"), ".");
+                s += Nombre(b).section(": ", 1).left(1).replace(QRegularExpression("[^X0]"), ".");
             EXPECT_EQ(s, resto);
         } else if (orden == "status") { // as a screen reader reads it
             EXPECT_EQ(Nombre(Form1().Panel), Texto(resto));

@@ -32,8 +32,8 @@ class Jugador {
         EXPECT_GT(mensajes_, 10); // the player reached every part of the program
         EXPECT_GT(finales_, acciones / 200);
         EXPECT_GT(rechazadas_, acciones / 50);
-        std::cout << "assistive actions: " << asistidas_ << ", of them behind the window in front: "
-                  << rechazadas_ << "\n";
+        std::cout << "assistive actions: " << asistidas_
+                  << ", of them behind the window in front: " << rechazadas_ << "\n";
     }
 
   private:
@@ -252,11 +252,11 @@ class Jugador {
     // Letters of several scripts, accents apart, emoji with joiners and skin
     // tones, right-to-left text and overrides, controls, line breaks, long text.
     const QStringList trozos_ =
-        QStringLiteral(
-            "a|Ana| |  Beto "
-            "|ñ|Ω|Ж|中|e\u0301|\u2067Ana\u2069|\u0915\u094D\u200D\u0937|שלום|\u202Eoveja|👍🏽|"
-            "👩‍👩‍👧|🇪🇸|"
-            "\t|\u0085|\x7f|Ana\nBeto|x\r\ny|zzzzzzzzzzzzzzzzzzzzzzzzz")
+        QStringLiteral("a|Ana| |  Beto "
+                       "|ñ|Ω|Ж|中|e\u0301|\u2067Ana\u2069|\u0915\u094D\u200D\u0937|שלום|"
+                       "\u202Eoveja|👍🏽|"
+                       "👩‍👩‍👧|🇪🇸|"
+                       "\t|\u0085|\x7f|Ana\nBeto|x\r\ny|zzzzzzzzzzzzzzzzzzzzzzzzz")
             .split('|');
     std::mt19937 g_;
     QObject vida_; // the queued actions die with the player
