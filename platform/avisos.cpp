@@ -12,8 +12,7 @@
 Avisador::Avisador(QWidget *ventana)
     : QObject(ventana), ventana_(ventana), barra_(new QStatusBar(ventana))
 {
-    // The messages are notifications in a status bar that draws nothing: a
-    // screen reader then reads each one alone, not the whole dialog again.
+    // The messages are notifications in a status bar that draws nothing.
     barra_->setSizeGripEnabled(false);
     barra_->setGeometry(0, 0, 0, 0);
     // Screen readers speak an object of the notification role as it appears.
@@ -57,8 +56,8 @@ void Avisador::Muestra()
     anterior_->resize(0, 0); // it draws nothing and takes no clicks
     // Screen readers speak a notification's name or the labels in it; a
     // braille display and the reader's message history take only the labels,
-    // hidden ones too in a status bar, where they are not read a second time
-    // as texts of the window.
+    // hidden ones too in a status bar. Hidden, the label is not read again
+    // among the window's own texts.
     auto *texto = new QLabel(std::exchange(pendiente_, QString()), anterior_);
     texto->setTextFormat(Qt::PlainText);
     texto->resize(0, 0);

@@ -128,8 +128,8 @@ class GrupoOpciones {
 // arrives as key code 13 and goes no further. However text comes in (keys,
 // an input method, paste, code), the box holds one line without control
 // characters or direction isolates, of at most `largoMaximo` characters as
-// a person counts them:
-// an accent stays with its letter, an emoji sequence is never split.
+// a person counts them: an accent stays with its letter, an emoji sequence
+// is never split.
 class CajaTexto : public QLineEdit {
   public:
     CajaTexto(QWidget *padre, const QRect &geometria, int largoMaximo);
