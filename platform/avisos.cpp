@@ -13,7 +13,6 @@ Avisador::Avisador(QWidget *ventana)
     : QObject(ventana), ventana_(ventana), barra_(new QStatusBar(ventana))
 {
     // The messages are notifications in a status bar that draws nothing.
-    barra_->setSizeGripEnabled(false);
     barra_->setGeometry(0, 0, 0, 0);
     // Screen readers speak an object of the notification role as it appears.
     static const bool rol = [] {

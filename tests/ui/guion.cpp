@@ -189,6 +189,8 @@ class Guion {
             Clic(Opcion(n));
         } else if (orden == "toggle") { // the other of two options
             Clic(Opcion(Opcion(0)->isChecked() ? 1 : 0));
+        } else if (orden == "behind" && p.value(0) == "close") { // as the window manager asks
+            (Delante()->parentWidget() ? Delante()->parentWidget() : &Form1())->close();
         } else if (orden == "behind") { // behind sq K | button N | menu ITEM
             // A screen reader's press on the window under the one in front:
             // the owner of a message box, else the main window.

@@ -145,12 +145,30 @@ class Jugador {
         const QString antes = Estado();
         ++asistidas_;
         auto *texto = i->editableTextInterface();
+        QAccessibleTextInterface *lectura = i->textInterface();
         QStringList acciones = i->actionInterface()->actionNames();
         acciones.removeAll(QAccessibleActionInterface::showMenuAction()); // no popups
-        if (texto && Dado(2))
-            texto->replaceText(0, i->textInterface()->characterCount(), Una(trozos_));
-        else if (!acciones.isEmpty())
+        if (texto && Dado(2)) {
+            texto->replaceText(0, lectura->characterCount(), Una(trozos_));
+        } else if (lectura && Dado(2)) { // the caret or a selection moved
+            const int n = lectura->characterCount(), desde = Dado(n + 1), hasta = Dado(n + 1);
+            if (const int como = Dado(3); como == 0) {
+                lectura->setCursorPosition(desde);
+                if (!fuera) {
+                    ASSERT_EQ(lectura->cursorPosition(), desde);
+                }
+            } else {
+                if (como == 1)
+                    lectura->setSelection(0, desde, hasta);
+                else
+                    lectura->addSelection(desde, hasta);
+                if (!fuera) {
+                    ASSERT_EQ(lectura->selectionCount(), desde != hasta);
+                }
+            }
+        } else if (!acciones.isEmpty()) {
             i->actionInterface()->doAction(Una(acciones));
+        }
         if (fuera) {
             ++rechazadas_;
             ASSERT_EQ(Estado().toStdString(), antes.toStdString())
@@ -178,6 +196,8 @@ class Jugador {
                  Textos(v, false).join('|');
             for (QAbstractButton *b : v->findChildren<QAbstractButton *>())
                 s += b->isDown() ? 'v' : '^';
+            for (QLineEdit *caja : v->findChildren<QLineEdit *>())
+                s += QStringLiteral(" %1:%2").arg(caja->cursorPosition()).arg(caja->selectedText());
         }
         return s;
     }
