@@ -33,7 +33,8 @@ class Jugador {
         EXPECT_GT(finales_, acciones / 200);
         EXPECT_GT(rechazadas_, acciones / 50);
         std::cout << "assistive actions: " << asistidas_
-                  << ", of them behind the window in front: " << rechazadas_ << "\n";
+                  << ", outside the window in front: " << rechazadas_
+                  << ", of them behind an open dialog: " << tras_dialogo_ << "\n";
     }
 
   private:
@@ -140,8 +141,9 @@ class Jugador {
         if (!i)
             return;
         bool fuera = true;
+        QObject *ventana = o;
         for (QObject *p = o; p; p = p->parent())
-            fuera &= p != Delante();
+            fuera &= p != Delante(), ventana = p;
         const QString antes = Estado();
         ++asistidas_;
         auto *texto = i->editableTextInterface();
@@ -171,6 +173,7 @@ class Jugador {
         }
         if (fuera) {
             ++rechazadas_;
+            tras_dialogo_ += static_cast<QWidget *>(ventana)->isVisible();
             ASSERT_EQ(Estado().toStdString(), antes.toStdString())
                 << Describe(qobject_cast<QWidget *>(o)).toStdString();
         }
@@ -286,6 +289,7 @@ class Jugador {
     int finales_ = 0;
     int asistidas_ = 0;
     int rechazadas_ = 0;
+    int tras_dialogo_ = 0; // the rest were in windows not on screen
 };
 
 class Aleatorio : public Programa, public ::testing::WithParamInterface<unsigned> {};
