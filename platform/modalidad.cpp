@@ -106,17 +106,15 @@ class Vigilado : public QAccessibleInterface,
     {
         if (!Alcanzable(object()))
             return;
-        // Qt presses a button later, whatever has opened by then: the press
-        // is weighed again when it lands.
+        // A press lands once the event loop is back, so that the caller has
+        // its answer before a window the press opens waits for the player
+        // (Qt's own press lands later still); it is weighed again then.
         if (auto *b = qobject_cast<QAbstractButton *>(object()); b && n == pressAction()) {
-            if (b->isEnabled()) {
-                b->setDown(true);
-                QTimer::singleShot(100, b, [b] {
-                    b->setDown(false);
+            if (b->isEnabled())
+                QTimer::singleShot(0, b, [b] {
                     if (Alcanzable(b))
                         b->click();
                 });
-            }
             return;
         }
         i_->actionInterface()->doAction(n);
@@ -272,12 +270,13 @@ int EjecutaModal(QDialog *ventana)
 
 bool Alcanzable(const QObject *objeto)
 {
-    // A modal window deleted before its show returned still holds the top.
+    // The topmost modal window holds the top until its show returns, also
+    // once hidden or deleted, when nothing acts.
     const QList<QPointer<QDialog>> &pila = Modales();
     const QObject *arriba = nullptr;
     for (const QObject *o = objeto; o; o = o->parent()) {
         if (!pila.isEmpty() && o == pila.last().data())
-            return true;
+            return pila.last()->isVisible();
         arriba = o;
     }
     auto *ventana = qobject_cast<const QWidget *>(arriba);

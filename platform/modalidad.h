@@ -13,10 +13,10 @@ class QObject;
 void ProtegeModalidad();
 
 // Shows the window modal and returns once it has been closed. Until then
-// (also in the moment between its hiding and the return) only the window and
-// what it opens take any action.
+// only the window and what it opens take any action; in the moment between
+// its hiding and the return, nothing does.
 int EjecutaModal(QDialog *ventana);
 
 // Whether an action on the object may run now: it belongs to the topmost
-// modal window, or, with none open, to a window on screen.
+// modal window, on screen, or, with none open, to a window on screen.
 bool Alcanzable(const QObject *objeto);

@@ -191,10 +191,9 @@ class Guion {
             Clic(Opcion(Opcion(0)->isChecked() ? 1 : 0));
         } else if (orden == "press") { // press sq K | button N, in front, as a screen reader does
             const int i = p.value(1).toInt();
-            QPointer<QAbstractButton> b = p.value(0) == "sq" ? Form1().cmdtir[i] : Boton(i);
+            QAbstractButton *b = p.value(0) == "sq" ? Form1().cmdtir[i] : Boton(i);
             Accesible(b)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-            for (QDeadlineTimer plazo(2000); b && b->isDown() && !plazo.hasExpired();)
-                QCoreApplication::processEvents(); // the press lands a moment later
+            QCoreApplication::processEvents();                   // it lands once the loop is back
         } else if (orden == "behind" && p.value(0) == "close") { // as the window manager asks
             (Delante()->parentWidget() ? Delante()->parentWidget() : &Form1())->close();
         } else if (orden == "behind") { // behind sq K | button N | menu ITEM
