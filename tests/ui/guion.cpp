@@ -149,6 +149,11 @@ class Guion {
         return QApplication::activeWindow() == Delante();
     }
 
+    static void Pulsa(QObject *o)
+    {
+        Accesible(o)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    }
+
     // The menu's items, in the order it lists them.
     static QAction *Item(const QString &nombre)
     {
@@ -191,22 +196,23 @@ class Guion {
             Clic(Opcion(Opcion(0)->isChecked() ? 1 : 0));
         } else if (orden == "press") { // press sq K | button N, in front, as a screen reader does
             const int i = p.value(1).toInt();
-            QAbstractButton *b = p.value(0) == "sq" ? Form1().cmdtir[i] : Boton(i);
-            Accesible(b)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-            QCoreApplication::processEvents();                   // it lands once the loop is back
-        } else if (orden == "behind" && p.value(0) == "close") { // as the window manager asks
-            (Delante()->parentWidget() ? Delante()->parentWidget() : &Form1())->close();
-        } else if (orden == "behind") { // behind sq K | button N | menu ITEM
-            // A screen reader's press on the window under the one in front:
-            // the owner of a message box, else the main window.
+            Pulsa(p.value(0) == "sq" ? Form1().cmdtir[i] : Boton(i));
+            QCoreApplication::processEvents(); // it lands once the loop is back
+        } else if (orden == "behind") {        // behind sq K | button N | menu ITEM | close
+            // The window under the one in front: the owner of a message box,
+            // else the main window; closed as the window manager asks, or
+            // pressed as a screen reader does.
             QWidget *debajo = Delante()->parentWidget() ? Delante()->parentWidget() : &Form1();
             const QString que = p.value(0);
             const int i = p.value(1).toInt();
-            QObject *o = que == "sq" ? static_cast<QObject *>(Form1().cmdtir[i])
-                         : que == "button"
-                             ? static_cast<QObject *>(debajo->findChildren<QPushButton *>().at(i))
-                             : Item(p.value(1));
-            Accesible(o)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+            if (que == "close")
+                debajo->close();
+            else if (que == "sq")
+                Pulsa(Form1().cmdtir[i]);
+            else if (que == "button")
+                Pulsa(debajo->findChildren<QPushButton *>().at(i));
+            else
+                Pulsa(Item(p.value(1)));
         } else if (orden == "close") {
             Delante()->close();
         } else if (orden == "type") {
