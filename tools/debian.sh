@@ -1,0 +1,73 @@
+#!/usr/bin/env bash
+# Runs the README's test command on another Debian release: in a root of that
+# release made from Debian's archive with debootstrap (kept and reused under
+# ROOTS, made afresh when missing), on a fresh clone of this repository's
+# HEAD. Nothing stays mounted when it ends, however it ends. As root.
+#   debian.sh [SUITE]        SUITE: trixie (default), forky, ...
+set -euo pipefail
+cd "$(dirname "$0")/.."
+suite=${1:-trixie}
+roots=${ROOTS:-/var/tmp/supertirlo-roots}
+root=$roots/$suite
+clone=/root/supertirlo
+[ "$(id -u)" -eq 0 ] || { echo "debian.sh: run as root (it makes a root and mounts in it)" >&2; exit 2; }
+start=$SECONDS
+took() { printf '%s: %s took %d s\n' "$suite" "$1" $((SECONDS - $2)); }
+
+# What is mounted under the root, deepest first; and the processes running in
+# it, which would keep a mount busy.
+mounted() { awk -v r="$root/" 'index($2 "/", r) == 1 {print $2}' /proc/self/mounts | sort -r; }
+inside() {
+    local p
+    for p in /proc/[0-9]*; do
+        [ "$(readlink "$p/root" 2> /dev/null)" = "$root" ] && echo "${p#/proc/}"
+    done
+    return 0
+}
+release() {
+    local pids m
+    pids=$(inside)
+    if [ -n "$pids" ]; then
+        kill $pids 2> /dev/null || true
+        sleep 1
+        kill -9 $(inside) 2> /dev/null || true
+    fi
+    for m in $(mounted); do umount "$m" 2> /dev/null || umount -l "$m"; done
+}
+release # what an earlier run ended before releasing
+trap release EXIT
+trap 'exit 130' INT
+trap 'exit 143' TERM HUP
+
+if [ ! -e "$root/.made" ]; then
+    t=$SECONDS
+    command -v debootstrap > /dev/null || {
+        apt-get -o DPkg::Lock::Timeout=600 update -qq
+        DEBIAN_FRONTEND=noninteractive apt-get -o DPkg::Lock::Timeout=600 install -y -qq debootstrap
+    }
+    # The archive this machine's own packages come from.
+    mirror=$(sed -n 's/^URIs: *\([^ ]*debian\)$/\1/p' /etc/apt/sources.list.d/debian.sources 2> /dev/null | head -n 1)
+    rm -rf "$root"
+    mkdir -p "$roots"
+    debootstrap --variant=minbase "$suite" "$root" "${mirror:-http://deb.debian.org/debian}" > "$roots/$suite.log" 2>&1 ||
+        { tail -n 20 "$roots/$suite.log"; exit 1; }
+    touch "$root/.made"
+    took "making the root" $t
+fi
+
+cp /etc/resolv.conf "$root/etc/resolv.conf"
+mount -t proc proc "$root/proc"
+mount --rbind /sys "$root/sys"
+mount --make-rslave "$root/sys"
+mount --rbind /dev "$root/dev"
+mount --make-rslave "$root/dev"
+mount -t tmpfs tmpfs "$root/tmp"
+rm -rf "$root$clone"
+git clone -q --no-local . "$root$clone"
+
+t=$SECONDS
+chroot "$root" env -i HOME=/root PATH=/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin \
+    LANG=C.UTF-8 TERM="${TERM:-dumb}" CI="${CI:-}" \
+    bash -c "echo Debian \$(cat /etc/debian_version); cd $clone && bash tools/test.sh"
+took "the test command" $t
+took "all" $start
