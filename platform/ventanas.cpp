@@ -11,6 +11,7 @@
 #include <QLibraryInfo>
 #include <QMainWindow>
 #include <QMessageBox>
+#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
@@ -55,12 +56,12 @@ Dialogo::Dialogo(const QString &titulo, int anchoTw, int altoTw)
     connect(this, &QDialog::finished, this, [this] { Descargate(); });
 }
 
-void Dialogo::PintaFondo(const QColor &color)
+void Dialogo::paintEvent(QPaintEvent *e)
 {
-    QPalette p = palette();
-    p.setColor(QPalette::Window, color);
-    setPalette(p);
-    setAutoFillBackground(true);
+    if (fondo_.isValid())
+        QPainter(this).fillRect(rect(), fondo_);
+    else
+        QDialog::paintEvent(e);
 }
 
 void Dialogo::MuestraModal()

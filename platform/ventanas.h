@@ -88,11 +88,22 @@ template <class T> class Ventana {
 class Dialogo : public Formulario<QDialog> {
   public:
     Dialogo(const QString &titulo, int anchoTw, int altoTw);
-    // A background of its own instead of the system's button face.
-    void PintaFondo(const QColor &color);
+    // A background of its own instead of the system's button face, painted
+    // by the window, whose palette stays the desktop's: the style caches its
+    // drawings (a button's bevel) under the palette they were drawn with,
+    // and a palette set on a window is a new one for every window made, so
+    // each opening would leave its drawings in the cache for good.
+    void PintaFondo(const QColor &color) { fondo_ = color; }
+    QColor Fondo() const { return fondo_; }
     void Descarga() { done(Accepted); }
     // Modal: returns only once the window has been unloaded.
     void MuestraModal();
+
+  protected:
+    void paintEvent(QPaintEvent *e) override;
+
+  private:
+    QColor fondo_;
 };
 
 // The raised 3-D panel holding controls: bevel, RGB (236, 233, 216), dark

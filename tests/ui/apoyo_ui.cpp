@@ -52,6 +52,27 @@ QAccessibleInterface *Accesible(QObject *o)
     return Accesible(menu)->child(int(menu->actions().indexOf(item)));
 }
 
+Cache CacheAccesible()
+{
+    // Qt numbers the interfaces it caches upwards from 2^31: a new one's
+    // number bounds those made before it.
+    QWidget sonda;
+    const QAccessible::Id ultima =
+        QAccessible::uniqueId(QAccessible::queryAccessibleInterface(&sonda));
+    Cache c;
+    for (QAccessible::Id id = QAccessible::Id(INT_MAX) + 1; id < ultima; ++id)
+        if (QAccessibleInterface *i = QAccessible::accessibleInterface(id))
+            ++(i->isValid() ? c.vivas : c.huerfanas);
+    return c;
+}
+
+QColor ColorFondo(QWidget *w)
+{
+    if (auto *dialogo = dynamic_cast<Dialogo *>(w))
+        return dialogo->Fondo();
+    return w->autoFillBackground() ? w->palette().color(QPalette::Window) : QColor();
+}
+
 // What the player sees of one control: its text, the selected option marked
 // "(*)", a text box's limit, a menu with its items ("[x]" checked, "[-]"
 // disabled); "_" for nothing. Empty when it is no control of those kinds.
@@ -61,9 +82,9 @@ QString Fondo(QWidget *w)
 {
     auto *marco = qobject_cast<QFrame *>(w);
     const bool bisel = marco && marco->frameStyle() == (QFrame::Panel | QFrame::Raised);
+    const QColor color = ColorFondo(w);
     return (bisel ? QStringLiteral(" raised %1").arg(marco->lineWidth()) : QString()) +
-           (w->autoFillBackground() ? " " + w->palette().color(QPalette::Window).name()
-                                    : QString());
+           (color.isValid() ? " " + color.name() : QString());
 }
 
 QString Describe(QWidget *w)

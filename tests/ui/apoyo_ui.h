@@ -33,6 +33,9 @@ class Programa : public ::testing::Test {
 // The values under `clave` and `modo` (es, en, design, tab) in textos.txt.
 QStringList Datos(const std::string &clave, const std::string &modo);
 
+// The colour of a background the widget paints itself, if it does.
+QColor ColorFondo(QWidget *w);
+
 // What the player sees of a control, and of a whole window (title first,
 // then the controls in the order built; with `lugar`, the window's client
 // size and each control's place in pixels), written as textos.txt writes them.
@@ -48,6 +51,13 @@ void Clic(QAbstractButton *b);
 // What assistive technology reaches of a widget or a menu item: the
 // interface Qt's AT-SPI bridge acts through.
 QAccessibleInterface *Accesible(QObject *o);
+
+// What Qt's accessibility cache holds: interfaces of living objects, and of
+// objects already destroyed, which none should outlive.
+struct Cache {
+    int vivas = 0, huerfanas = 0;
+};
+Cache CacheAccesible();
 
 // The characters of a text as a person sees them (grapheme clusters).
 QStringList Grafemas(const QString &texto);

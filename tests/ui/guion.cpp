@@ -35,7 +35,7 @@ void BienVisible(QWidget *ventana)
         bool envuelve = false;
         QPalette::ColorRole tinta = QPalette::WindowText, fondo = QPalette::Window;
         QWidget *pinta = w; // the nearest widget that paints its own background
-        while (!pinta->autoFillBackground() && !pinta->isWindow())
+        while (!ColorFondo(pinta).isValid() && !pinta->isWindow())
             pinta = pinta->parentWidget();
         const auto medida = [w](QStyle::PixelMetric m) {
             return w->style()->pixelMetric(m, nullptr, w);
@@ -57,7 +57,11 @@ void BienVisible(QWidget *ventana)
         } else {
             continue;
         }
-        const double a = Luz(w->palette().color(tinta)), b = Luz(pinta->palette().color(fondo));
+        const QColor propio = ColorFondo(pinta);
+        const double a = Luz(w->palette().color(tinta)),
+                     b = Luz(fondo == QPalette::Window && propio.isValid()
+                                 ? propio
+                                 : pinta->palette().color(fondo));
         if (w->isEnabled()) { // greyed-out texts are meant to recede
             EXPECT_GE((std::max(a, b) + 0.05) / (std::min(a, b) + 0.05), 4.5)
                 << qPrintable(Describe(w));

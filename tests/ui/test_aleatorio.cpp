@@ -4,8 +4,8 @@
 // control or menu item of any window, behind dialogs included, where only
 // the window in front may act. The program's rules are checked whenever
 // the main window is in front, and the thousands of windows opened and
-// closed on the way must leave none behind (and LeakSanitizer, in the
-// sanitizer build, no memory).
+// closed on the way must leave none behind, nor any of their accessibility
+// interfaces (and LeakSanitizer, in the sanitizer build, no memory).
 #include "accesible.h"
 #include "apoyo_ui.h"
 #include "idioma.h"
@@ -311,6 +311,10 @@ TEST_P(Aleatorio, TenThousandActions)
     AzarGuionado azar(valores);
     Jugador(GetParam()).Corre(10000);
     EXPECT_EQ(azar.excedidas, 0);
+    ReiniciaPrograma();
+    const Cache cache = CacheAccesible();
+    EXPECT_GT(cache.vivas, 0);
+    EXPECT_EQ(cache.huerfanas, 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(Semillas, Aleatorio, ::testing::Values(1u, 2u, 3u));
