@@ -4,12 +4,14 @@
 # on a private Xvfb; the medians of the time from exec to the first window
 # being mapped, the CPU used by then, the peak RSS, and the CPU used over five
 # idle seconds (from one second after the map) are printed with the ratios to
-# the floor.
+# the floor. Inside a D-Bus session, as on a desktop, where Qt asks whether
+# assistive technology is running.
 #   bash bench/arranque.sh [RUNS]
 set -euo pipefail
 cd "$(dirname "$0")/.."
 runs=${1:-9}
 bash tools/deps.sh bench
+[ -n "${DBUS_SESSION_BUS_ADDRESS:-}" ] || exec dbus-run-session -- bash "$0" "$runs"
 cmake -S . -B build -DCMAKE_BUILD_TYPE=Release > /dev/null
 cmake --build build -j"$(nproc)" --target supertirlo minimo mapeo > /dev/null
 
@@ -36,6 +38,6 @@ for p in minimo supertirlo; do
     printf '%-12s %10s %10s %12s %12s\n' "$p" "$(col $p 1)" "$(col $p 2)" "$(col $p 3)" "$(col $p 4)"
 done
 awk -v a="$(col supertirlo 1)" -v b="$(col minimo 1)" -v c="$(col supertirlo 3)" -v d="$(col minimo 3)" \
-    -v e="$(col supertirlo 4)" 'BEGIN {
-    printf "start-up %.2fx the floor (target 1.2x), peak RSS %.2fx (target 1.1x), idle CPU %s ms in 5 s (target 0)\n", a / b, c / d, e }'
+    -v e="$(col supertirlo 4)" -v f="$(col supertirlo 2)" -v g="$(col minimo 2)" 'BEGIN {
+    printf "start-up %.2fx the floor (target 0.9x), CPU until mapped %.2fx, peak RSS %.2fx (target 1.1x), idle CPU %s ms in 5 s (target 0)\n", a / b, f / g, c / d, e }'
 rm -rf "$out"

@@ -9,22 +9,8 @@
 #include <QStatusBar>
 #include <QWidget>
 
-Avisador::Avisador(QWidget *ventana)
-    : QObject(ventana), ventana_(ventana), barra_(new QStatusBar(ventana))
+Avisador::Avisador(QWidget *ventana) : QObject(ventana), ventana_(ventana)
 {
-    // The messages are notifications in a status bar that draws nothing.
-    barra_->setGeometry(0, 0, 0, 0);
-    // Screen readers speak an object of the notification role as it appears.
-    static const bool rol = [] {
-        QAccessible::installFactory([](const QString &, QObject *o) -> QAccessibleInterface * {
-            return o->objectName() == QLatin1String("aviso")
-                       ? new QAccessibleWidget(static_cast<QWidget *>(o), QAccessible::Notification)
-                       : nullptr;
-        });
-        ProtegeModalidad(); // the guard goes back in front of every factory
-        return true;
-    }();
-    Q_UNUSED(rol)
     ventana_->installEventFilter(this);
 }
 
@@ -49,6 +35,27 @@ void Avisador::Muestra()
 {
     if (pendiente_.isEmpty())
         return;
+    if (!barra_) {
+        // Made for the first message, not with the window: a status bar
+        // measures the window's font, which the first window would
+        // otherwise load before it could show.
+        barra_ = new QStatusBar(ventana_);
+        // The messages are notifications in a status bar that draws nothing.
+        barra_->setGeometry(0, 0, 0, 0);
+        barra_->show();
+        // Screen readers speak an object of the notification role as it appears.
+        static const bool rol = [] {
+            QAccessible::installFactory([](const QString &, QObject *o) -> QAccessibleInterface * {
+                return o->objectName() == QLatin1String("aviso")
+                           ? new QAccessibleWidget(static_cast<QWidget *>(o),
+                                                   QAccessible::Notification)
+                           : nullptr;
+            });
+            ProtegeModalidad(); // the guard goes back in front of every factory
+            return true;
+        }();
+        Q_UNUSED(rol)
+    }
     delete anterior_;
     anterior_ = new QWidget(barra_);
     anterior_->setObjectName(QStringLiteral("aviso"));

@@ -25,7 +25,7 @@ class Avisador : public QObject {
   private:
     void Muestra();
     QWidget *ventana_;
-    QStatusBar *barra_;
+    QStatusBar *barra_ = nullptr;
     QString pendiente_;
     QPointer<QWidget> anterior_;
 };
