@@ -17,7 +17,13 @@ test -s "$share/man/man6/supertirlo.6.gz"
 entry=$share/applications/$id.desktop
 metainfo=$share/metainfo/$id.metainfo.xml
 desktop-file-validate "$entry"
-appstreamcli validate --no-net "$metainfo"
+# AppStream 1.0 asks for a home page, which the project does not have yet:
+# that one warning is waived by name where the validator knows it (0.16
+# neither asks nor knows the tag).
+waiver=()
+[ "$(appstreamcli --version | grep -o '[0-9]*' | head -n 1)" -ge 1 ] &&
+    waiver=(--override=url-homepage-missing=info)
+appstreamcli validate --no-net "${waiver[@]}" "$metainfo"
 # The entry, the AppStream launchable, the icon, the binary and the windows'
 # WM_CLASS all name one program.
 for line in Exec=supertirlo Icon=supertirlo StartupWMClass=supertirlo; do grep -qx "$line" "$entry"; done

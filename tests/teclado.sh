@@ -21,9 +21,10 @@ for _ in \$(seq 100); do
     sleep 0.1
 done
 # Orca, the desktop's screen reader, writes all it would say into its debug
-# file; through a terminal (script) it writes each line as it comes. With
-# speech off it waits for no speech server, and says all the same.
-script -qfc "orca --replace --disable speech -u '$sesion.d' --debug-file /dev/stdout" \
+# file; through a terminal (script) it writes each line as it comes. It finds
+# no speech server here, and says all the same (with speech off, Orca 48
+# would not say a notification at all).
+script -qfc "orca --replace -u '$sesion.d' --debug-file /dev/stdout" \
     "$sesion.d/orca" > /dev/null 2>&1 &
 orca=\$!
 for _ in \$(seq 300); do grep -qs "Screen reader on" "$sesion.d/orca" && break; sleep 0.1; done

@@ -149,7 +149,12 @@ class Guion {
             Delante()->activateWindow();
             return QTest::qWaitForWindowActive(Delante());
         }
+        // Deprecated since Qt 6.5 for programs, where the window system
+        // decides; Qt offers no other way to stand in for a missing seat.
+        QT_WARNING_PUSH
+        QT_WARNING_DISABLE_DEPRECATED
         QApplication::setActiveWindow(Delante());
+        QT_WARNING_POP
         return QApplication::activeWindow() == Delante();
     }
 
