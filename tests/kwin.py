@@ -30,24 +30,27 @@ def pulsa(nodo):
     threading.Thread(target=lambda: nodo.queryAction().doAction(0), daemon=True).start()
 
 
+# KWin 6 lists its windows with windowList, KWin 5 with clientList.
+VENTANAS = "(workspace.windowList ? workspace.windowList() : workspace.clientList())"
+
 juego = subprocess.Popen([os.environ["PROGRAMA"]],
                          env=dict(os.environ, QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1"))
 try:
     inicio = ventana("Selección de idioma")
     pulsa(next(n for n in nodos(inicio) if n.name == "Aceptar"))
     principal = ventana("El famoso juego del tirlo (Nivel 3)")
-    pulsa(next(n for n in nodos(principal) if n.getRoleName() == "menu item"
+    pulsa(next(n for n in nodos(principal) if n.getRole() == pyatspi.ROLE_MENU_ITEM
                and n.name == "Nivel"))
     ventana("Nivel")
     time.sleep(1)
-    kwin("minimiza", 'for (const c of workspace.clientList()) '
+    kwin("minimiza", 'for (const c of ' + VENTANAS + ') '
                      'if (c.caption === "Nivel") c.minimized = true;')
     time.sleep(1)
-    informe = ('for (const c of workspace.clientList()) '
+    informe = ('for (const c of ' + VENTANAS + ') '
                'print(c.caption, c.minimized ? "minimised" : "on screen");')
     kwin("informa", informe)
     # The player brings the game back from the task manager.
-    kwin("restaura", 'for (const c of workspace.clientList()) '
+    kwin("restaura", 'for (const c of ' + VENTANAS + ') '
                      'if (c.caption.startsWith("El famoso")) c.minimized = false;')
     time.sleep(1)
     kwin("informa2", informe)

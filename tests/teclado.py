@@ -21,13 +21,15 @@ from orca import orca_platform
 # What Orca says and logs where its versions differ: Debian 12's 43 and
 # Debian 13's 48. A push button's role; an option selected (the utterances,
 # each as it starts); what follows a main window's title; the debug line of
-# each notification kept in its history.
-ORCA = {
+# each notification kept in its history. A later Orca is read as the latest
+# one known.
+ORCAS = {
     43: {"boton": "push button", "opcion": lambda nombre: [nombre, "selected radio button"],
          "marco": " frame", "guardada": r"saveMessage \(queue length: \d+\)"},
     48: {"boton": "button", "opcion": lambda nombre: [nombre + " selected radio button"],
          "marco": "", "guardada": r"NOTIFICATION PRESENTER: Adding '"},
-}[int(orca_platform.version.split(".")[0])]
+}
+ORCA = ORCAS[max(v for v in ORCAS if v <= int(orca_platform.version.split(".")[0]))]
 
 # The panel's last message of a game, in either language.
 FIN = ("Congratulations, you win!", "You lose", "Draw game!", "¡Felicidades tu ganas!",
