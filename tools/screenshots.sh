@@ -24,6 +24,12 @@ trap cleanup EXIT
 export DISPLAY=$display
 for _ in $(seq 50); do xdpyinfo > /dev/null 2>&1 && break; sleep 0.1; done
 openbox > /dev/null 2>&1 &
+# The window manager managing (it lists what it supports only once it is)
+# before the game: a window mapped while it starts up stays unmapped.
+for _ in $(seq 100); do
+    xprop -root _NET_SUPPORTED 2> /dev/null | grep -q _NET_ACTIVE_WINDOW && break
+    sleep 0.1
+done
 
 QT_SCALE_FACTOR=$scale ./build/supertirlo &
 game=$!
