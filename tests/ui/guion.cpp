@@ -266,6 +266,8 @@ class Guion {
             QCoreApplication::processEvents();
             auto *aviso = Form1().findChild<QWidget *>("aviso");
             EXPECT_EQ(aviso ? aviso->findChild<QLabel *>()->text() : QString(), Texto(texto));
+            // Nothing of it on screen: its status bar takes no room either.
+            EXPECT_TRUE(!aviso || aviso->parentWidget()->geometry().isEmpty());
         } else if (orden == "panel") { // as drawn, with what isolates a name
             EXPECT_EQ(Form1().Panel->text(), texto);
         } else if (orden == "title") {
