@@ -110,9 +110,8 @@ int main(int argc, char **argv)
         {"language", [&f] { f.mnuSeleccionIdioma_Click(); }},
         // Qt's own message box keeps some memory at each opening on X11 (its
         // icon drawn anew): the floor for the game's.
-        {"plain Qt message box", [&f] {
-             QMessageBox::information(&f, QStringLiteral("t"), QStringLiteral("x"));
-         }},
+        {"plain Qt message box",
+         [&f] { QMessageBox::information(&f, QStringLiteral("t"), QStringLiteral("x")); }},
         {"message box", [&f] { MsgBoxInformacion(&f, QStringLiteral("t"), QStringLiteral("x")); }},
     };
     for (const bool accesible : {false, true}) {
