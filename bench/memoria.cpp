@@ -25,7 +25,8 @@ namespace {
 long RssKb()
 {
     QFile estado(QStringLiteral("/proc/self/status"));
-    estado.open(QIODevice::ReadOnly);
+    if (!estado.open(QIODevice::ReadOnly))
+        qFatal("cannot read /proc/self/status");
     for (QByteArray linea; !(linea = estado.readLine()).isEmpty();)
         if (linea.startsWith("VmRSS:"))
             return linea.mid(6).trimmed().split(' ').first().toLong();

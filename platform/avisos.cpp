@@ -57,8 +57,11 @@ void Avisador::Muestra()
         Q_UNUSED(rol)
     }
     delete anterior_;
-    anterior_ = new QWidget(barra_);
+    // Named before it joins the window: from Qt 6.11 on, a widget made with
+    // a parent has its accessibility interface (its role) made at once.
+    anterior_ = new QWidget;
     anterior_->setObjectName(QStringLiteral("aviso"));
+    anterior_->setParent(barra_);
     anterior_->resize(0, 0); // it draws nothing and takes no clicks
     // Screen readers speak a notification's name or the labels in it; a
     // braille display and the reader's message history take only the labels,

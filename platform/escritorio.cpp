@@ -1,13 +1,10 @@
 #include "escritorio.h"
 
-#include <QFileInfo>
 #include <QGuiApplication>
-#include <QLibraryInfo>
 #include <QPlatformSurfaceEvent>
 #include <QWindow>
 #include <QtGui/qguiapplication_platform.h>
 
-#include <wayland-client.h>
 #include <xcb/xcb.h>
 
 #include <cstdio>
@@ -55,72 +52,43 @@ class NombraVentanasX11 : public QObject {
     xcb_atom_t atomos_[3];
 };
 
-// Why no window can open on X11, or nothing if one can.
-QString RazonSinX()
+// What Qt says while it looks for a window system; said only if none opens.
+QStringList &Razones()
 {
-    const QByteArray pantalla = qgetenv("DISPLAY");
-    if (pantalla.isEmpty())
-        return QStringLiteral("X11: DISPLAY is not set");
-    xcb_connection_t *x = xcb_connect(nullptr, nullptr);
-    const bool rechazado = xcb_connection_has_error(x);
-    xcb_disconnect(x);
-    return rechazado ? QStringLiteral("X11: the display %1 refused the connection")
-                           .arg(QString::fromLocal8Bit(pantalla))
-                     : QString();
+    static QStringList razones;
+    return razones;
 }
 
-// Why no window can open on Wayland, or nothing if one can.
-QString RazonSinWayland()
+// Qt ends a program that no window system takes with an abort and a page of
+// advice: the player gets one line with Qt's reasons, and status 1.
+void AvisoDeArranque(QtMsgType tipo, const QMessageLogContext &, const QString &texto)
 {
-    const QByteArray nombre = qgetenv("WAYLAND_DISPLAY");
-    const QString socket =
-        nombre.isEmpty() ? QStringLiteral("wayland-0") : QString::fromLocal8Bit(nombre);
-    // The library's own complaints would add lines of their own.
-    wl_log_set_handler_client([](const char *, va_list) {});
-    wl_display *compositor = wl_display_connect(nullptr);
-    if (!compositor)
-        return QStringLiteral("Wayland: no compositor at %1").arg(socket);
-    wl_display_disconnect(compositor);
-    const QString plugin = QLibraryInfo::path(QLibraryInfo::PluginsPath) +
-                           QStringLiteral("/platforms/libqwayland-generic.so");
-    return QFileInfo::exists(plugin)
-               ? QString()
-               : QStringLiteral(
-                     "Wayland: Qt's Wayland plugin (package qt6-wayland) is not installed");
+    if (tipo == QtWarningMsg || tipo == QtCriticalMsg)
+        Razones() << texto.trimmed();
+    if (tipo != QtFatalMsg)
+        return;
+    std::fprintf(stderr, "supertirlo: no display to open a window on (%s): %s\n",
+                 qgetenv("QT_QPA_PLATFORM").constData(),
+                 qPrintable(Razones().join(QStringLiteral("; "))));
+    std::_Exit(1);
 }
 
 } // namespace
 
-bool EligeSistemaDeVentanas()
+void EligeSistemaDeVentanas()
 {
-    const QByteArray pedido = qgetenv("QT_QPA_PLATFORM");
-    // The desktop's X server first, where there is one, XWayland included:
-    // its window manager frames every window as designed, and minimises a
-    // dialog together with the window it belongs to.
-    const QList<QByteArray> sistemas =
-        pedido.isEmpty() ? QList<QByteArray>{"xcb", "wayland"} : pedido.split(';');
-    QStringList probados;
-    for (const QByteArray &sistema : sistemas) {
-        const QByteArray nombre = sistema.split(':').first();
-        QString razon;
-        if (nombre == "xcb")
-            razon = RazonSinX();
-        else if (nombre == "wayland")
-            razon = RazonSinWayland();
-        if (razon.isEmpty()) {
-            if (pedido.isEmpty())
-                qputenv("QT_QPA_PLATFORM", sistema);
-            return true;
-        }
-        probados << razon;
-    }
-    std::fprintf(stderr, "supertirlo: no display to open a window on: %s\n",
-                 qPrintable(probados.join(QStringLiteral("; "))));
-    return false;
+    // The X server first, XWayland included: its window manager frames every
+    // window as designed, and minimises a dialog with the window it belongs to.
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "xcb;wayland");
+    qInstallMessageHandler(AvisoDeArranque);
 }
 
 void IdentificaPrograma()
 {
+    // The window system is open: Qt's messages go their usual way again.
+    qInstallMessageHandler(nullptr);
+    Razones().clear();
     QGuiApplication::setDesktopFileName(QString::fromLatin1(kIdEntrada));
     if (auto *x11 = qApp->nativeInterface<QNativeInterface::QX11Application>())
         qApp->installEventFilter(new NombraVentanasX11(x11->connection()));

@@ -3,14 +3,13 @@
 // on, and the name its windows give the session so that docks and window
 // switchers tie them to the program's desktop entry and icon.
 
-// Before the application object: the window system the game opens on. The
+// Before the application object: unless QT_QPA_PLATFORM chooses, the
 // desktop's X server where it takes the connection (XWayland on a Wayland
 // session: its window manager draws the frames as designed, where Qt's own
-// would cut titles short and show buttons the windows do not have), else
-// the Wayland compositor. A choice made with QT_QPA_PLATFORM is obeyed.
-// False, once one line on standard error has said what was tried, when no
-// window can open.
-bool EligeSistemaDeVentanas();
+// would cut titles short and show buttons the windows do not have), else the
+// Wayland compositor. Where none takes the program, it ends with one line on
+// standard error saying why, and status 1.
+void EligeSistemaDeVentanas();
 
 // After it: every window names the desktop entry, as the Wayland app id and
 // as the desktop-file hints of X11 windows.

@@ -263,6 +263,10 @@ void CajaTexto::keyPressEvent(QKeyEvent *e)
 void MsgBoxInformacion(QWidget *padre, const QString &titulo, const QString &texto)
 {
     QMessageBox caja(QMessageBox::Information, titulo, texto, QMessageBox::Ok, padre);
+    // Qt 6.11 lets the keyboard select the text, so it takes the focus, and
+    // a screen reader then reads it only if the player moves there: the
+    // text is read as the box's own, with its title, when it opens.
+    caja.setTextInteractionFlags(Qt::NoTextInteraction);
     EjecutaModal(&caja);
 }
 

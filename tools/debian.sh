@@ -47,10 +47,20 @@ if [ ! -e "$root/.made" ]; then
     }
     # The archive this machine's own packages come from.
     mirror=$(sed -n 's/^URIs: *\([^ ]*debian\)$/\1/p' /etc/apt/sources.list.d/debian.sources 2> /dev/null | head -n 1)
+    [ -n "$mirror" ] || { echo "debian.sh: no Debian archive in /etc/apt/sources.list.d/debian.sources" >&2; exit 1; }
+    # A debootstrap older than the suite has no script by its name; sid's
+    # serves testing.
+    script=/usr/share/debootstrap/scripts/$suite
+    [ -e "$script" ] || script=/usr/share/debootstrap/scripts/sid
     rm -rf "$root"
     mkdir -p "$roots"
-    debootstrap --variant=minbase "$suite" "$root" "${mirror:-http://deb.debian.org/debian}" > "$roots/$suite.log" 2>&1 ||
+    debootstrap --variant=minbase "$suite" "$root" "$mirror" "$script" > "$roots/$suite.log" 2>&1 ||
         { tail -n 20 "$roots/$suite.log"; exit 1; }
+    # A testing suite's Release file in a snapshot of the archive expires
+    # after a week; stable suites keep apt's check.
+    if grep -qsx 'Suite: \(testing\|unstable\)' "$root"/var/lib/apt/lists/*_Release; then
+        echo 'Acquire::Check-Valid-Until "false";' > "$root/etc/apt/apt.conf.d/99snapshot"
+    fi
     touch "$root/.made"
     took "making the root" $t
 fi
