@@ -58,7 +58,7 @@ if [ ! -e "$root/.made" ]; then
         { tail -n 20 "$roots/$suite.log"; exit 1; }
     # A testing suite's Release file in a snapshot of the archive expires
     # after a week; stable suites keep apt's check.
-    if grep -qsx 'Suite: \(testing\|unstable\)' "$root"/var/lib/apt/lists/*_Release; then
+    if grep -qsx 'Suite: \(testing\|unstable\)' "$root"/var/lib/apt/lists/*Release; then
         echo 'Acquire::Check-Valid-Until "false";' > "$root/etc/apt/apt.conf.d/99snapshot"
     fi
     touch "$root/.made"
