@@ -1,5 +1,13 @@
 #include "idioma.h"
 
+#include "formularios.h"
+
+#include <QCoreApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QRadioButton>
+#include <QTranslator>
+
 QString strAcerca;
 QString strSalir;
 QString strSeleccionIdioma;
@@ -73,9 +81,10 @@ QString TextoAcerca(bool ingles)
 
 } // namespace
 
-void CargaTextos(bool ingles,
-                 const std::function<void(const QString &, const QString &)> &textosSeleccion)
+void CargaIdioma()
 {
+    ui::VentanaIdioma &seleccion = frmSeleccion();
+    const bool ingles = seleccion.optIngles->isChecked();
     Asigna({{&strOponentesMenu, u"&Opponents", u"&Oponentes"},
             {&strOponentes, u"Opponents", u"Oponentes"},
             {&strNombrePrimero, u"Name to &first player:", u"Nombre del &primer jugador:"},
@@ -85,12 +94,10 @@ void CargaTextos(bool ingles,
             {&strJugadorUno, u"player one", u"Primer jugador"},
             {&strJugadorDos, u"player two", u"Segundo jugador"}},
            ingles);
-    if (ingles)
-        textosSeleccion(QStringLiteral("Thank you for to play my game"),
-                        QStringLiteral("Idiom selection"));
-    else
-        textosSeleccion(QStringLiteral("Gracias por jugar mi juego"),
-                        QStringLiteral("Selección de idioma"));
+    seleccion.lblGracias->setText(ingles ? QStringLiteral("Thank you for to play my game")
+                                         : QStringLiteral("Gracias por jugar mi juego"));
+    seleccion.setWindowTitle(ingles ? QStringLiteral("Idiom selection")
+                                    : QStringLiteral("Selección de idioma"));
     Asigna({{&strAcerca, u"&About...", u"&Acerca..."},
             {&strSalir, u"&Exit", u"&Salir"},
             {&strSeleccionIdioma, u"&Idiom Selection", u"Se&lección de idioma"},
@@ -112,4 +119,18 @@ void CargaTextos(bool ingles,
             {&strPierdes, u"You lose", u"Lo siento tu pierdes"},
             {&strTuTurno, u"Your turn", u"Tu turno"}},
            ingles);
+}
+
+void TextosQtEnEspanol(bool espanol)
+{
+    static QTranslator *catalogo = [] {
+        auto *t = new QTranslator(qApp);
+        if (!t->load(QLocale(QLocale::Spanish), QStringLiteral("qtbase"), QStringLiteral("_"),
+                     QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+            qWarning("Qt's Spanish catalogue (qtbase_es.qm) is not installed");
+        return t;
+    }();
+    QCoreApplication::removeTranslator(catalogo);
+    if (espanol)
+        QCoreApplication::installTranslator(catalogo);
 }

@@ -3,8 +3,6 @@
 
 #include <QString>
 
-#include <functional>
-
 extern QString strAcerca;
 extern QString strSalir;
 extern QString strSeleccionIdioma;
@@ -33,11 +31,14 @@ extern QString strPierdes;
 extern QString strTuTurno;
 extern QString strNivel;
 
-// Overwrites all the texts above with English or Spanish ones. The language
-// window's own label and title are handed to `textosSeleccion` on the way.
-void CargaTextos(
-    bool ingles,
-    const std::function<void(const QString &gracias, const QString &titulo)> &textosSeleccion);
+// Overwrites all the texts above with the language of the language window's
+// selected option, English or Spanish, and sets that window's own label and
+// title on the way.
+void CargaIdioma();
+
+// Qt's own texts (message-box buttons, the text boxes' context menu) in
+// Spanish, or back in English.
+void TextosQtEnEspanol(bool espanol);
 
 // The caption application: copies the texts into the main window, the level
 // dialog and the opponents dialog, creating those hidden where they do not

@@ -8,15 +8,12 @@
 #include <QFontDatabase>
 #include <QKeyEvent>
 #include <QLayout>
-#include <QLibraryInfo>
 #include <QMainWindow>
 #include <QMessageBox>
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
-#include <QTextBoundaryFinder>
-#include <QTranslator>
 #include <QWindow>
 
 QFont FuentePrograma(double puntos, bool negrita)
@@ -100,13 +97,6 @@ void EstiloPanel(QFrame *panel, const QRect &geometria)
     panel->setPalette(p);
 }
 
-// A direction isolate (U+2066 to U+2069): the messages isolate each name
-// themselves, and no text that assistive technology reads may hold one.
-bool Aislante(QChar c)
-{
-    return c.unicode() >= 0x2066 && c.unicode() <= 0x2069;
-}
-
 } // namespace
 
 QFrame *CreaPanel(QWidget *padre, const QRect &geometria)
@@ -122,14 +112,6 @@ Panel3D::Panel3D(QWidget *padre, const QRect &geometria, Qt::Alignment alineacio
     setFont(FuentePrograma(8.25, true));
     setAlignment(alineacion);
     setTextFormat(Qt::PlainText);
-}
-
-void Panel3D::Caption(const QString &texto)
-{
-    setText(texto);
-    // Read without the marks that isolate a name: setting the name also
-    // tells assistive technology that it changed.
-    setAccessibleName(QString(texto).removeIf(Aislante));
 }
 
 GrupoOpciones::GrupoOpciones(QObject *dueno) : grupo_(new QButtonGroup(dueno))
@@ -162,93 +144,19 @@ QRadioButton *GrupoOpciones::Opcion(int indice) const
     return static_cast<QRadioButton *>(grupo_->button(indice));
 }
 
-namespace {
-
-// Where each character of the text, as a person counts them (grapheme
-// clusters), ends. Qt's finder can put a boundary between the two halves of
-// a surrogate pair after some joiner sequences: those are skipped.
-QList<qsizetype> Fines(const QString &texto)
-{
-    QList<qsizetype> fines;
-    QTextBoundaryFinder limites(QTextBoundaryFinder::Grapheme, texto);
-    for (qsizetype p; (p = limites.toNextBoundary()) != -1;)
-        if (p == texto.size() || !texto[p].isLowSurrogate())
-            fines << p;
-    return fines;
-}
-
-// The first `n` of them.
-QString Primeros(const QString &texto, qsizetype n)
-{
-    const QList<qsizetype> fines = Fines(texto);
-    return n <= 0 || fines.isEmpty() ? QString() : texto.left(fines[std::min(n, fines.size()) - 1]);
-}
-
-// What a one-line box takes of a text: its first line, without control
-// characters, direction isolates and half of a surrogate pair.
-QString UnaLinea(const QString &texto)
-{
-    QString linea;
-    for (qsizetype i = 0; i < texto.size(); ++i) {
-        const QChar c = texto[i];
-        if (c == u'\n' || c == u'\r' || c == u'\v' || c == u'\f' || c == QChar(0x85) ||
-            c == QChar::LineSeparator || c == QChar::ParagraphSeparator)
-            break;
-        if (c.isHighSurrogate() && i + 1 < texto.size() && texto[i + 1].isLowSurrogate())
-            linea += texto.mid(i++, 2);
-        else if (!c.isSurrogate() && c.category() != QChar::Other_Control && !Aislante(c))
-            linea += c;
-    }
-    return linea;
-}
-
-} // namespace
-
-CajaTexto::CajaTexto(QWidget *padre, const QRect &geometria, int largoMaximo)
-    : QLineEdit(padre), largoMaximo_(largoMaximo)
+CajaTexto::CajaTexto(QWidget *padre, const QRect &geometria, QValidator *validador)
+    : QLineEdit(padre)
 {
     setGeometry(geometria);
-    // Not setMaxLength: it counts UTF-16 units, and would keep half an emoji.
-    connect(this, &QLineEdit::textChanged, this, &CajaTexto::Ajusta);
-}
-
-// An edit keeps the text on either side of it and adds of what came in only
-// as much as fits, as a full box refuses a key; text set by code is taken
-// from its start.
-void CajaTexto::Ajusta(const QString &nuevo)
-{
-    if (nuevo == aceptado_)
-        return;
-    qsizetype antes = 0, despues = 0;
-    if (isModified()) {
-        const qsizetype comun = std::min(nuevo.size(), aceptado_.size());
-        while (antes < comun && nuevo[antes] == aceptado_[antes])
-            ++antes;
-        while (despues < comun - antes &&
-               nuevo[nuevo.size() - 1 - despues] == aceptado_[aceptado_.size() - 1 - despues])
-            ++despues;
-        // Both ends on whole characters of the new text.
-        const QList<qsizetype> fines = Fines(nuevo);
-        const auto previo = std::upper_bound(fines.begin(), fines.end(), antes);
-        antes = previo == fines.begin() ? 0 : *(previo - 1);
-        const auto siguiente = std::lower_bound(fines.begin(), fines.end(), nuevo.size() - despues);
-        despues = siguiente == fines.end() ? 0 : nuevo.size() - *siguiente;
-    }
-    const QString inicio = nuevo.left(antes), fin = nuevo.right(despues);
-    const QString entra = UnaLinea(nuevo.mid(antes, nuevo.size() - antes - despues));
-    QString texto;
-    for (qsizetype n = std::min<qsizetype>(Fines(entra).size(), largoMaximo_ + 1); n >= 0; --n) {
-        texto = inicio + Primeros(entra, n) + fin;
-        if (Fines(texto).size() <= largoMaximo_)
-            break;
-    }
-    texto = Primeros(texto, largoMaximo_);
-    aceptado_ = texto;
-    if (texto != nuevo) {
-        const qsizetype cursor = texto.size() - fin.size();
-        setText(texto);
-        setCursorPosition(int(std::max<qsizetype>(cursor, 0)));
-    }
+    setValidator(validador);
+    // Text set by code or by assistive technology passes no validator: what
+    // it would refuse is undone.
+    connect(this, &QLineEdit::textChanged, this, [this] {
+        if (hasAcceptableInput())
+            aceptado_ = text();
+        else
+            setText(aceptado_);
+    });
 }
 
 void CajaTexto::keyPressEvent(QKeyEvent *e)
@@ -268,29 +176,4 @@ void MsgBoxInformacion(QWidget *padre, const QString &titulo, const QString &tex
     // text is read as the box's own, with its title, when it opens.
     caja.setTextInteractionFlags(Qt::NoTextInteraction);
     EjecutaModal(&caja);
-}
-
-void TextosQtEnEspanol(bool espanol)
-{
-    static QTranslator *catalogo = [] {
-        auto *t = new QTranslator(qApp);
-        if (!t->load(QLocale(QLocale::Spanish), QStringLiteral("qtbase"), QStringLiteral("_"),
-                     QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-            qWarning("Qt's Spanish catalogue (qtbase_es.qm) is not installed");
-        return t;
-    }();
-    QCoreApplication::removeTranslator(catalogo);
-    if (espanol)
-        QCoreApplication::installTranslator(catalogo);
-}
-
-QString Trim(const QString &texto)
-{
-    qsizetype inicio = 0;
-    qsizetype fin = texto.size();
-    while (inicio < fin && texto[inicio] == u' ')
-        ++inicio;
-    while (fin > inicio && texto[fin - 1] == u' ')
-        --fin;
-    return texto.mid(inicio, fin - inicio);
 }

@@ -115,9 +115,7 @@ QFrame *CreaPanel(QWidget *padre, const QRect &geometria);
 class Panel3D : public QLabel {
   public:
     Panel3D(QWidget *padre, const QRect &geometria, Qt::Alignment alineacion = Qt::AlignCenter);
-    // Shows the text and tells assistive technology that it changed, so a
-    // screen reader announces every new message.
-    void Caption(const QString &texto);
+    void Caption(const QString &texto) { setText(texto); }
 };
 
 // Option buttons in one container: exactly one selected.
@@ -136,33 +134,20 @@ class GrupoOpciones {
 };
 
 // A single-line text box whose KeyDown handler sees every key first; Enter
-// arrives as key code 13 and goes no further. However text comes in (keys,
-// an input method, paste, code), the box holds one line without control
-// characters or direction isolates, of at most `largoMaximo` characters as
-// a person counts them: an accent stays with its letter, an emoji sequence
-// is never split.
+// arrives as key code 13 and goes no further. Its validator holds however
+// text comes in: keys, an input method, paste, code, assistive technology.
 class CajaTexto : public QLineEdit {
   public:
-    CajaTexto(QWidget *padre, const QRect &geometria, int largoMaximo);
+    CajaTexto(QWidget *padre, const QRect &geometria, QValidator *validador);
     std::function<void(int codigo)> KeyDown;
-    int LargoMaximo() const { return largoMaximo_; }
 
   protected:
     void keyPressEvent(QKeyEvent *e) override;
 
   private:
-    void Ajusta(const QString &nuevo);
-    const int largoMaximo_;
     QString aceptado_; // the text as last taken
 };
 
 // A modal information box with one OK button, showing its owner's icon;
 // returns once it is closed.
 void MsgBoxInformacion(QWidget *padre, const QString &titulo, const QString &texto);
-
-// Qt's own texts (message-box buttons, the text boxes' context menu) in
-// Spanish, or back in English.
-void TextosQtEnEspanol(bool espanol);
-
-// The text without its leading and trailing spaces (only the space character).
-QString Trim(const QString &texto);

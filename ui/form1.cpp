@@ -6,6 +6,7 @@
 #include "formularios.h"
 #include "idioma.h"
 #include "movimiento.h"
+#include "nombres.h"
 
 #include <QLayout>
 #include <QMenuBar>
@@ -31,16 +32,11 @@ class Superficie : public QWidget {
     }
 };
 
-// A player's name inside a message, isolated from the text around it (first
-// strong isolate ... pop directional isolate): whatever its script or its
-// direction marks, the message keeps its own order around it. An empty name
-// needs nothing.
+// The player's name as a message shows it.
 QString Nombre(const std::string &jugador, bool recortado = false)
 {
-    QString nombre = QString::fromStdString(jugador);
-    if (recortado)
-        nombre = Trim(nombre);
-    return nombre.isEmpty() ? nombre : QChar(0x2068) + nombre + QChar(0x2069);
+    const QString nombre = QString::fromStdString(jugador);
+    return Aislado(recortado ? Trim(nombre) : nombre);
 }
 
 } // namespace
@@ -123,36 +119,9 @@ void VentanaPrincipal::closeEvent(QCloseEvent *)
 
 void VentanaPrincipal::cmdtir_Click(Integer Index)
 {
-    std::array<QString, 9> antes;
-    for (int k = 0; k < 9; ++k)
-        antes[k] = cmdtir[k]->text();
-    JuegaCasilla(Index);
-    ActualizaAccesibles();
-    if (cmdtir[Index]->text() != antes[Index]) // a click that plays nothing says nothing
-        AvisaLector(antes, Index);
-}
-
-// Tells a screen reader what the board and the panel now say: the square
-// played (`jugada`, -1 for none) and then every other square marked since
-// `antes`, as each square reads, and the panel's message.
-void VentanaPrincipal::AvisaLector(const std::array<QString, 9> &antes, Integer jugada)
-{
-    QStringList partes;
-    if (jugada >= 0)
-        partes << cmdtir[jugada]->accessibleName();
-    for (int k = 0; k < 9; ++k)
-        if (k != jugada && cmdtir[k]->text() != antes[k] && !cmdtir[k]->text().isEmpty())
-            partes << cmdtir[k]->accessibleName();
-    partes << Panel->accessibleName();
-    partes.removeAll(QString()); // an empty message, as two nameless players get, says nothing
-    avisos_->Avisa(partes.join(QStringLiteral(". ")));
-}
-
-void VentanaPrincipal::JuegaCasilla(Integer Index)
-{
     QPushButton *boton = cmdtir[Index];
     if (!boton->text().isEmpty() || !Jugando)
-        return;
+        return; // dropped without a sign
     cmdnuevo->setEnabled(false);
     const Integer c = Index % 3;
     const Integer r = Index / 3;
@@ -163,17 +132,18 @@ void VentanaPrincipal::JuegaCasilla(Integer Index)
         boton->setText(QStringLiteral("0"));
         Tablero(c, r) = kCero;
     }
-
     if (Modo == kContraPC) {
-        if (FinSiTermino(strFelicidades) || !MovimientoPC(Tablero))
-            return;
-        PintaComputadora();
-        if (!FinSiTermino(strPierdes))
-            Panel->Caption(strTuTurno);
+        // The computer replies while the game goes on.
+        if (!FinSiTermino(strFelicidades) && MovimientoPC(Tablero)) {
+            PintaComputadora();
+            if (!FinSiTermino(strPierdes))
+                Panel->Caption(strTuTurno);
+        }
     } else if (!FinSiTermino(strGana + Nombre(JugadorDelTurno(), true) + QStringLiteral("!"))) {
         Turno = Turno == kTurnoJugador1 ? kTurnoJugador2 : kTurnoJugador1;
         AnunciaTurno();
     }
+    Informa(Index);
 }
 
 bool VentanaPrincipal::FinSiTermino(const QString &mensajeLinea)
@@ -212,8 +182,7 @@ void VentanaPrincipal::cmdnuevo_Click()
         Jugando = true;
         Panel->Caption(strTuTurno);
     }
-    ActualizaAccesibles();
-    AvisaLector({}, -1); // the computer's opening square, if it opened, and whose turn
+    Informa(-1);
 }
 
 // Shows "0" on every square the computer holds that still has no caption.
@@ -226,19 +195,42 @@ void VentanaPrincipal::PintaComputadora()
     }
 }
 
-void VentanaPrincipal::ActualizaAccesibles()
+QList<Integer> VentanaPrincipal::ActualizaAccesibles()
 {
-    for (int k = 0; k < 9; ++k) {
+    QList<Integer> cambiadas;
+    for (Integer k = 0; k < 9; ++k) {
         // Only what changed: a screen reader hears of every change.
         QPushButton *b = cmdtir[k];
-        if (const QString nombre = NombreCasilla(k, b->text()); b->accessibleName() != nombre)
+        if (const QString nombre = NombreCasilla(k, b->text()); b->accessibleName() != nombre) {
             b->setAccessibleName(nombre);
+            cambiadas << k;
+        }
         // An invitation to play only where a press plays.
         const QString descripcion =
             Jugando && b->text().isEmpty() ? DescripcionCasilla() : QString();
         if (b->accessibleDescription() != descripcion)
             b->setAccessibleDescription(descripcion);
     }
+    return cambiadas;
+}
+
+void VentanaPrincipal::Informa(Integer jugada)
+{
+    const QList<Integer> cambiadas = ActualizaAccesibles();
+    QStringList partes;
+    for (Integer k = 0; k < 9; ++k) {
+        // After a click, what it changed; in a new game, all it holds.
+        if (cmdtir[k]->text().isEmpty() || (jugada >= 0 && !cambiadas.contains(k)))
+            continue;
+        if (k == jugada)
+            partes.prepend(cmdtir[k]->accessibleName());
+        else
+            partes << cmdtir[k]->accessibleName();
+    }
+    Panel->setAccessibleName(SinAislantes(Panel->text()));
+    partes << Panel->accessibleName();
+    partes.removeAll(QString()); // an empty message, as two nameless players get, says nothing
+    avisos_->Avisa(partes.join(QStringLiteral(". ")));
 }
 
 void VentanaPrincipal::mnu1vs2_Click()

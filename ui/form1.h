@@ -43,8 +43,8 @@ class VentanaPrincipal : public Formulario<QMainWindow> {
     QAction *mnuSalir;
 
     // The squares' accessible names and descriptions, from their captions,
-    // in the language of Idioma.
-    void ActualizaAccesibles();
+    // in the language of Idioma: the squares whose name changed.
+    QList<Integer> ActualizaAccesibles();
 
   protected:
     // Form_Unload. The main window is the last one open, and the program
@@ -52,12 +52,14 @@ class VentanaPrincipal : public Formulario<QMainWindow> {
     void closeEvent(QCloseEvent *e) override;
 
   private:
-    void JuegaCasilla(Integer Index);
     void PintaComputadora();
     // A line or a full board ends the game with its message: true if it ended.
     bool FinSiTermino(const QString &mensajeLinea);
     void AnunciaTurno();
-    void AvisaLector(const std::array<QString, 9> &antes, Integer jugada);
+    // What the board and the panel now say, told to a screen reader once:
+    // the square played (`jugada`, -1 for a new game), every other square
+    // newly marked, and the panel's message, as each reads.
+    void Informa(Integer jugada);
 
     Avisador *avisos_ = new Avisador(this);
 };

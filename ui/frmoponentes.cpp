@@ -2,6 +2,7 @@
 
 #include "estado.h"
 #include "idioma.h"
+#include "nombres.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -18,10 +19,10 @@ DialogoOponentes::DialogoOponentes() : Dialogo(QStringLiteral("Oponentes"), 3990
     SSPanel1 = CreaPanel(this, TwRect(60, 60, 3885, 1665));
     label[0] = new QLabel(QStringLiteral("Nombre del primer oponente:"), SSPanel1);
     label[0]->setGeometry(TwRect(225, 240, 3015, 255));
-    Text1[0] = new CajaTexto(SSPanel1, TwRect(225, 480, 3255, 285), 15);
+    Text1[0] = new CajaTexto(SSPanel1, TwRect(225, 480, 3255, 285), new ValidadorNombre(this));
     Label1 = new QLabel(QStringLiteral("Nombre del segundo oponente:"), SSPanel1);
     Label1->setGeometry(TwRect(225, 870, 2775, 255));
-    Text1[1] = new CajaTexto(SSPanel1, TwRect(210, 1110, 3255, 285), 15);
+    Text1[1] = new CajaTexto(SSPanel1, TwRect(210, 1110, 3255, 285), new ValidadorNombre(this));
     for (Integer i = 0; i < 2; ++i)
         Text1[i]->KeyDown = [this, i](int codigo) { Text1_KeyDown(i, codigo); };
     label[0]->setBuddy(Text1[0]);

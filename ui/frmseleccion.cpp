@@ -88,12 +88,4 @@ void VentanaIdioma::cmdSalir_Click()
     Descarga();
 }
 
-void VentanaIdioma::CargaIdioma()
-{
-    CargaTextos(optIngles->isChecked(), [this](const QString &gracias, const QString &titulo) {
-        lblGracias->setText(gracias);
-        setWindowTitle(titulo);
-    });
-}
-
 } // namespace ui

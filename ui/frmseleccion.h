@@ -29,7 +29,6 @@ class VentanaIdioma : public Dialogo {
 
   private:
     void EligeIdioma(const QString &aceptar, const QString &salir, Integer idioma);
-    void CargaIdioma();
     Avisador *avisos_ = new Avisador(this);
 };
 

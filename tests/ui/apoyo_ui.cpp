@@ -102,8 +102,8 @@ QString Describe(QWidget *w)
         s = b->text() + (b->isEnabled() ? "" : " [-]");
     } else if (auto *l = qobject_cast<QLabel *>(w)) {
         s = QString(l->text()).replace("\n", "\\n");
-    } else if (auto *e = dynamic_cast<CajaTexto *>(w)) {
-        s = QStringLiteral("[%1]").arg(e->LargoMaximo()) + e->text();
+    } else if (auto *e = qobject_cast<QLineEdit *>(w)) {
+        s = QStringLiteral("[box]") + e->text();
     } else if (qobject_cast<QFrame *>(w)) {
         s = QStringLiteral("[panel]");
     } else {
