@@ -1,6 +1,5 @@
 #include "ventanas.h"
 
-#include "icono.h"
 #include "modalidad.h"
 
 #include <QApplication>
@@ -15,6 +14,13 @@
 #include <QRadioButton>
 #include <QScreen>
 #include <QWindow>
+
+QIcon IconoPrograma()
+{
+    QIcon icono(QStringLiteral(":/icons/32x32/apps/supertirlo.png"));
+    icono.addFile(QStringLiteral(":/icons/64x64/apps/supertirlo.png"));
+    return icono;
+}
 
 QFont FuentePrograma(double puntos, bool negrita)
 {

@@ -5,9 +5,9 @@
 // the raised 3-D panel, text boxes with a KeyDown handler, message boxes.
 
 #include "entero.h"
-#include "icono.h"
 
 #include <QDialog>
+#include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
@@ -27,6 +27,10 @@ inline QRect TwRect(int left, int top, int width, int height)
 {
     return {Tw(left), Tw(top), Tw(width), Tw(height)};
 }
+
+// The window icon of every window: the 32x32 picture, and its crisp double
+// for high-density screens.
+QIcon IconoPrograma();
 
 // "MS Sans Serif" where it exists, otherwise a face with its widths.
 QFont FuentePrograma(double puntos = 8.25, bool negrita = false);
