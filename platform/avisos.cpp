@@ -1,13 +1,18 @@
 #include "avisos.h"
 
-#include "modalidad.h"
-
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QEvent>
 #include <QLabel>
 #include <QStatusBar>
 #include <QWidget>
+
+QAccessibleInterface *RolDeAviso(const QString &, QObject *objeto)
+{
+    return objeto->objectName() == QLatin1String("aviso")
+               ? new QAccessibleWidget(static_cast<QWidget *>(objeto), QAccessible::Notification)
+               : nullptr;
+}
 
 Avisador::Avisador(QWidget *ventana) : QObject(ventana), ventana_(ventana)
 {
@@ -43,18 +48,6 @@ void Avisador::Muestra()
         // The messages are notifications in a status bar that draws nothing.
         barra_->setGeometry(0, 0, 0, 0);
         barra_->show();
-        // Screen readers speak an object of the notification role as it appears.
-        static const bool rol = [] {
-            QAccessible::installFactory([](const QString &, QObject *o) -> QAccessibleInterface * {
-                return o->objectName() == QLatin1String("aviso")
-                           ? new QAccessibleWidget(static_cast<QWidget *>(o),
-                                                   QAccessible::Notification)
-                           : nullptr;
-            });
-            ProtegeModalidad(); // the guard goes back in front of every factory
-            return true;
-        }();
-        Q_UNUSED(rol)
     }
     delete anterior_;
     // Named before it joins the window: from Qt 6.11 on, a widget made with

@@ -6,8 +6,13 @@
 #include <QPointer>
 #include <QString>
 
+class QAccessibleInterface;
 class QStatusBar;
 class QWidget;
+
+// The accessibility factory that gives the messages below the notification
+// role: screen readers speak an object of that role as it appears.
+QAccessibleInterface *RolDeAviso(const QString &clase, QObject *objeto);
 
 // Says a message to a screen reader, once: each message is a new
 // notification in the window, which screen readers speak, and show on a

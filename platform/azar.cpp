@@ -18,11 +18,11 @@ std::uint64_t Mezcla(std::uint64_t z)
 
 } // namespace
 
-Integer FuenteAzar::Elige(Integer n)
+int FuenteAzar::Elige(int n)
 {
     const float x = Rnd();
     // In double the product is exact, so x just below 1 gives n - 1, never n.
-    return static_cast<Integer>(static_cast<double>(n) * static_cast<double>(x));
+    return static_cast<int>(static_cast<double>(n) * static_cast<double>(x));
 }
 
 float GeneradorAzar::Rnd()

@@ -2,8 +2,6 @@
 // The shared pseudo-random source. Every random choice of the program draws
 // exactly one uniform value x in [0, 1) and takes entry floor(n * x).
 
-#include "entero.h"
-
 #include <cstdint>
 
 class FuenteAzar {
@@ -12,7 +10,7 @@ class FuenteAzar {
     // One uniform single-precision value in [0, 1).
     virtual float Rnd() = 0;
     // One choice among n entries: draws one value x and returns floor(n * x).
-    virtual Integer Elige(Integer n);
+    virtual int Elige(int n);
 };
 
 // The program's generator: a fixed initial state until it is seeded.
@@ -35,7 +33,7 @@ void Randomize(float semilla);
 float SegundosDesdeMedianoche();
 
 // floor(n * Azar().Rnd()), through the source in use.
-inline Integer AlAzar(Integer n)
+inline int AlAzar(int n)
 {
     return Azar().Elige(n);
 }

@@ -11,6 +11,5 @@
 // standard error saying why, and status 1.
 void EligeSistemaDeVentanas();
 
-// After it: every window names the desktop entry, as the Wayland app id and
-// as the desktop-file hints of X11 windows.
+// After it: every window names the desktop entry.
 void IdentificaPrograma();

@@ -1,5 +1,7 @@
 #include "modalidad.h"
 
+#include "avisos.h"
+
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
@@ -250,13 +252,10 @@ class GuardaCierres : public QObject {
 
 void ProtegeModalidad()
 {
-    static const bool cierres = [] {
-        qApp->installEventFilter(new GuardaCierres(qApp));
-        return true;
-    }();
-    Q_UNUSED(cierres)
-    // On top of the factories, also of any installed since.
-    QAccessible::removeFactory(Fabrica);
+    qApp->installEventFilter(new GuardaCierres(qApp));
+    // The last installed is asked first: the guard, in front of the
+    // notifications' role and of Qt's own interfaces.
+    QAccessible::installFactory(RolDeAviso);
     QAccessible::installFactory(Fabrica);
 }
 

@@ -8,8 +8,9 @@
 class QDialog;
 class QObject;
 
-// Once, after the application object and before any window: from then on
-// assistive technology acts only where the player can.
+// Once, after the application object and before any window: the program's
+// accessibility factories, in their order; from then on assistive
+// technology acts only where the player can.
 void ProtegeModalidad();
 
 // Shows the window modal and returns once it has been closed. Until then

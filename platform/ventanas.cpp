@@ -127,7 +127,7 @@ GrupoOpciones::GrupoOpciones(QObject *dueno) : grupo_(new QButtonGroup(dueno))
         // move among all of them.
         Opcion(id)->setFocusPolicy(marcado ? Qt::StrongFocus : Qt::ClickFocus);
         if (marcado && Click)
-            Click(static_cast<Integer>(id));
+            Click(id);
     });
 }
 

@@ -4,8 +4,6 @@
 // that waits, option groups whose Click runs when code or the user selects,
 // the raised 3-D panel, text boxes with a KeyDown handler, message boxes.
 
-#include "entero.h"
-
 #include <QDialog>
 #include <QIcon>
 #include <QLabel>
@@ -131,7 +129,7 @@ class GrupoOpciones {
     QRadioButton *Agrega(QWidget *padre, const QRect &geometria, const QString &texto);
     void Selecciona(int indice);
     QRadioButton *Opcion(int indice) const;
-    std::function<void(Integer)> Click;
+    std::function<void(int)> Click;
 
   private:
     QButtonGroup *grupo_;

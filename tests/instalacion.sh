@@ -56,8 +56,8 @@ env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM XDG_RUNTIME_DIR="$scratch" 
 grep -q '^supertirlo: no display to open a window on (xcb;wayland): .' "$scratch/err"
 cat "$scratch/err"
 
-# Started on its own display: the language window comes up, named after the
-# desktop entry; Enter opens the main window, and the level dialog opens
+# Started on its own display: the language window comes up, its class the
+# desktop entry's StartupWMClass; Enter opens the main window, and the level dialog opens
 # transient for it; Exit ends the program with status 0.
 cat > "$scratch/sesion.sh" <<SESION
 set -eu
@@ -72,10 +72,7 @@ ventana() { # the id of the window with this title, once it is up
 QT_QPA_PLATFORM=xcb "$binary" &
 game=\$!
 w=\$(ventana idioma)
-[ "\$(xprop -id \$w WM_CLASS _GTK_APPLICATION_ID _KDE_NET_WM_DESKTOP_FILE | cut -d= -f2)" = \
-  ' "supertirlo", "supertirlo"
- "$id"
- "$id"' ]
+[ "\$(xprop -id \$w WM_CLASS)" = 'WM_CLASS(STRING) = "supertirlo", "supertirlo"' ]
 xdotool windowfocus --sync \$w key Return
 main=\$(ventana 'Nivel 3')
 xdotool windowfocus --sync \$main key alt+o n

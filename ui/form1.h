@@ -3,6 +3,7 @@
 // Options menu.
 
 #include "avisos.h"
+#include "entero.h"
 #include "ventanas.h"
 
 #include <QMainWindow>

@@ -1,6 +1,7 @@
 #pragma once
 // The level dialog: a click on an option sets Nivel at once; OK only closes.
 
+#include "entero.h"
 #include "ventanas.h"
 
 class QPushButton;

@@ -2,6 +2,7 @@
 // The opponents dialog: the two players' names, checked and stored on OK,
 // the language's default names on Cancel.
 
+#include "entero.h"
 #include "ventanas.h"
 
 #include <array>

@@ -3,6 +3,7 @@
 // to switch the language of every window at once.
 
 #include "avisos.h"
+#include "entero.h"
 #include "ventanas.h"
 
 class QLabel;

@@ -22,7 +22,7 @@ struct AzarGuionado final : FuenteAzar {
     }
     ~AzarGuionado() override { UsaFuenteAzar(nullptr); }
     float Rnd() override;
-    Integer Elige(Integer n) override { return tamanos.push_back(n), FuenteAzar::Elige(n); }
+    int Elige(int n) override { return tamanos.push_back(Integer(n)), FuenteAzar::Elige(n); }
     std::vector<float> valores;
     std::vector<Integer> tamanos;
     int sacadas = 0;
