@@ -28,8 +28,7 @@ QAccessibleInterface *Envuelve(QAccessibleInterface *interno);
 class Vigilado : public QAccessibleInterface,
                  public QAccessibleActionInterface,
                  public QAccessibleTextInterface,
-                 public QAccessibleEditableTextInterface,
-                 public QAccessibleImageInterface {
+                 public QAccessibleEditableTextInterface {
   public:
     explicit Vigilado(QAccessibleInterface *interno) : i_(interno), objeto_(interno->object()) {}
     // Qt's cache deletes Qt's interface with its object, as it deletes this
@@ -83,23 +82,13 @@ class Vigilado : public QAccessibleInterface,
             return static_cast<QAccessibleTextInterface *>(this);
         case QAccessible::EditableTextInterface:
             return static_cast<QAccessibleEditableTextInterface *>(this);
-        case QAccessible::ImageInterface:
-            return static_cast<QAccessibleImageInterface *>(this);
-        default: // none of the program's controls has another
+        default: // nothing else acts: the message box's picture, for one
             return nullptr;
         }
     }
 
     // Actions.
     QStringList actionNames() const override { return i_->actionInterface()->actionNames(); }
-    QString localizedActionName(const QString &n) const override
-    {
-        return i_->actionInterface()->localizedActionName(n);
-    }
-    QString localizedActionDescription(const QString &n) const override
-    {
-        return i_->actionInterface()->localizedActionDescription(n);
-    }
     QStringList keyBindingsForAction(const QString &n) const override
     {
         return i_->actionInterface()->keyBindingsForAction(n);
@@ -188,16 +177,6 @@ class Vigilado : public QAccessibleInterface,
         if (Alcanzable(object()))
             i_->editableTextInterface()->replaceText(inicio, fin, texto);
     }
-
-    // Pictures.
-    QAccessibleImageInterface *I() const
-    {
-        return static_cast<QAccessibleImageInterface *>(
-            i_->interface_cast(QAccessible::ImageInterface));
-    }
-    QString imageDescription() const override { return I()->imageDescription(); }
-    QSize imageSize() const override { return I()->imageSize(); }
-    QPoint imagePosition() const override { return I()->imagePosition(); }
 
   private:
     QAccessibleInterface *i_;
