@@ -108,5 +108,5 @@ bash "$(dirname "$0")/weston.sh" bash -ec '
     [ \$status = 1 ]
     grep -qx "supertirlo: no display to open a window on: X11: the display \$DISPLAY refused the connection" "$scratch/x.log"'
 SESION
-xvfb-run -a -s '-screen 0 1024x768x24 -nolisten tcp' bash "$scratch/sesion.sh"
+bash "$(dirname "$0")/xvfb.sh" bash "$scratch/sesion.sh"
 echo "installed tree, package and packaged binary: fine"
