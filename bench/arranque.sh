@@ -11,7 +11,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 runs=${1:-9}
 bash tools/deps.sh bench
-[ -n "${DBUS_SESSION_BUS_ADDRESS:-}" ] || exec dbus-run-session -- bash "$0" "$runs"
+[ -n "${DBUS_SESSION_BUS_ADDRESS:-}" ] || exec dbus-run-session -- bash bench/arranque.sh "$runs"
 [ -n "${TIRLO_XVFB:-}" ] || exec env TIRLO_XVFB=1 bash tests/xvfb.sh bash bench/arranque.sh "$runs"
 cmake -S . -B build -DCMAKE_BUILD_TYPE=Release > /dev/null
 cmake --build build -j"$(nproc)" --target supertirlo minimo mapeo > /dev/null
