@@ -11,16 +11,11 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 runs=${1:-9}
 bash tools/deps.sh bench
-[ -n "${DBUS_SESSION_BUS_ADDRESS:-}" ] || exec dbus-run-session -- bash "$0" "$runs"
+[ -n "${DBUS_SESSION_BUS_ADDRESS:-}" ] || exec dbus-run-session -- bash bench/arranque.sh "$runs"
+[ -n "${TIRLO_XVFB:-}" ] || exec env TIRLO_XVFB=1 bash tests/xvfb.sh bash bench/arranque.sh "$runs"
 cmake -S . -B build -DCMAKE_BUILD_TYPE=Release > /dev/null
 cmake --build build -j"$(nproc)" --target supertirlo minimo mapeo > /dev/null
 
-display=:$((500 + RANDOM % 400))
-Xvfb "$display" -screen 0 1024x768x24 -nolisten tcp > /dev/null 2>&1 &
-xvfb=$!
-trap 'kill $xvfb 2> /dev/null || true' EXIT
-export DISPLAY=$display
-for _ in $(seq 50); do xdpyinfo > /dev/null 2>&1 && break; sleep 0.1; done
 unset QT_QPA_PLATFORM QT_SCALE_FACTOR
 
 out=$(mktemp -d)

@@ -110,5 +110,5 @@ bash "$(dirname "$0")/weston.sh" bash -ec '
     tail -n 1 "$scratch/x.log" | grep -q "^supertirlo: no display to open a window on (xcb): ."
     [ "\$(grep -c ^supertirlo "$scratch/x.log")" = 1 ]'
 SESION
-xvfb-run -a -s '-screen 0 1024x768x24 -nolisten tcp' bash "$scratch/sesion.sh"
+bash "$(dirname "$0")/xvfb.sh" bash "$scratch/sesion.sh"
 echo "installed tree, package and packaged binary: fine"

@@ -33,4 +33,4 @@ status=0
 kill \$orca %1 2> /dev/null || true
 exit \$status
 SESION
-xvfb-run -a -s '-screen 0 1024x768x24 -nolisten tcp' dbus-run-session -- bash "$sesion"
+bash "$here/xvfb.sh" dbus-run-session -- bash "$sesion"

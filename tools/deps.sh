@@ -7,7 +7,7 @@ build=(build-essential cmake qt6-base-dev qt6-translations-l10n libgtest-dev lib
 case "${1:-}" in
     build) wanted=("${build[@]}") ;;
     test) wanted=("${build[@]}" desktop-file-utils appstream dpkg-dev file lintian xvfb xauth xdotool x11-utils openbox dbus at-spi2-core python3-pyatspi orca weston qt6-wayland) ;;
-    bench) wanted=("${build[@]}" libx11-dev xvfb xauth x11-utils dbus) ;;
+    bench) wanted=("${build[@]}" libx11-dev xvfb xauth dbus) ;;
     shots) wanted=("${build[@]}" xvfb xauth xdotool x11-utils imagemagick openbox) ;;
     *) echo "usage: $0 build|test|bench|shots" >&2; exit 2 ;;
 esac

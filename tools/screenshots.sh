@@ -8,21 +8,14 @@ cd "$(dirname "$0")/.."
 out=${1:-build/shots}
 scale=${2:-1}
 bash tools/deps.sh shots
+# The session on a display of its own.
+[ -n "${TIRLO_XVFB:-}" ] || exec env TIRLO_XVFB=1 bash tests/xvfb.sh bash tools/screenshots.sh "$out" "$scale"
 cmake -S . -B build -DCMAKE_BUILD_TYPE=Release > /dev/null
 cmake --build build -j"$(nproc)" --target supertirlo > /dev/null
 mkdir -p "$out"
 
-display=:$((90 + RANDOM % 400))
-Xvfb "$display" -screen 0 1024x768x24 -nolisten tcp > /dev/null 2>&1 &
-xvfb=$!
 game=""
-cleanup() {
-    [ -n "$game" ] && kill "$game" 2> /dev/null || true
-    kill "$xvfb" 2> /dev/null || true
-}
-trap cleanup EXIT
-export DISPLAY=$display
-for _ in $(seq 50); do xdpyinfo > /dev/null 2>&1 && break; sleep 0.1; done
+trap '[ -n "$game" ] && kill "$game" 2> /dev/null || true' EXIT
 openbox > /dev/null 2>&1 &
 # The window manager managing (it lists what it supports only once it is)
 # before the game: a window mapped while it starts up stays unmapped.
