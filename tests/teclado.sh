@@ -33,4 +33,11 @@ status=0
 kill \$orca %1 2> /dev/null || true
 exit \$status
 SESION
-bash "$here/xvfb.sh" dbus-run-session -- bash "$sesion"
+# Orca, as it starts, ends every other Orca of the same user on the machine,
+# which it finds by process name: where it can, the session has a process
+# namespace of its own, so that two sessions never end each other's Orca.
+# (In a root made by tools/debian.sh the whole run has one already.)
+solo=(unshare --pid --fork --mount-proc)
+[ "$(id -u)" = 0 ] || solo=(unshare --user --map-root-user --pid --fork --mount-proc)
+"${solo[@]}" true 2> /dev/null || solo=()
+bash "$here/xvfb.sh" "${solo[@]}" dbus-run-session -- bash "$sesion"
