@@ -14,12 +14,13 @@ openbox > /dev/null 2>&1 &
 # The window manager managing (it lists what it supports only once it is,
 # after claiming the screen), so new windows get the focus, and the
 # accessibility bus started (asking for its address does), before the game.
-for _ in \$(seq 100); do
+listo() {
     xprop -root _NET_SUPPORTED 2> /dev/null | grep -q _NET_ACTIVE_WINDOW &&
         dbus-send --session --print-reply --dest=org.a11y.Bus /org/a11y/bus \
-            org.a11y.Bus.GetAddress > /dev/null 2>&1 && break
-    sleep 0.1
-done
+            org.a11y.Bus.GetAddress > /dev/null 2>&1
+}
+for _ in \$(seq 100); do listo && break; sleep 0.1; done
+listo || { echo "no window manager or accessibility bus in 10 s"; exit 1; }
 # Orca, the desktop's screen reader, writes all it would say into its debug
 # file; through a terminal (script) it writes each line as it comes. It finds
 # no speech server here, and says all the same (with speech off, Orca 48
@@ -28,6 +29,7 @@ script -qfc "orca --replace -u '$sesion.d' --debug-file /dev/stdout" \
     "$sesion.d/orca" > /dev/null 2>&1 &
 orca=\$!
 for _ in \$(seq 300); do grep -qs "Screen reader on" "$sesion.d/orca" && break; sleep 0.1; done
+grep -qs "Screen reader on" "$sesion.d/orca" || { echo "Orca not on in 30 s"; exit 1; }
 status=0
 /usr/bin/python3 "$here/teclado.py" "$(realpath "$1")" "$sesion.d/orca" || status=\$?
 kill \$orca %1 2> /dev/null || true

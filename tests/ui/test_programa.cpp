@@ -26,6 +26,12 @@ std::vector<Guion> LeeGuiones()
     return guiones;
 }
 
+// CTest lists a script by its title and language.
+void PrintTo(const Guion &g, std::ostream *os)
+{
+    *os << (g.ingles ? "en: " : "es: ") << g.titulo;
+}
+
 class Guiones : public Programa, public ::testing::WithParamInterface<Guion> {};
 
 TEST_P(Guiones, PlayAsWritten)
