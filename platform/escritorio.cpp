@@ -16,10 +16,13 @@ QStringList &Razones()
 }
 
 // Qt ends a program that no window system takes with an abort and a page of
-// advice: the player gets one line with Qt's reasons, and status 1.
-void AvisoDeArranque(QtMsgType tipo, const QMessageLogContext &, const QString &texto)
+// advice: the player gets one line with Qt's reasons, and status 1. The
+// plugin loader's own advice is left out: it names a package whether or not
+// it is missing.
+void AvisoDeArranque(QtMsgType tipo, const QMessageLogContext &contexto, const QString &texto)
 {
-    if (tipo == QtWarningMsg || tipo == QtCriticalMsg)
+    if ((tipo == QtWarningMsg || tipo == QtCriticalMsg) &&
+        qstrcmp(contexto.category, "qt.qpa.plugin") != 0)
         Razones() << texto.trimmed();
     if (tipo != QtFatalMsg)
         return;
