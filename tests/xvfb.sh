@@ -20,12 +20,14 @@ Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp -auth "$dir/server" \
     3>> "$dir/display" > "$dir/log" 2>&1 &
 xvfb=$!
 # It writes the number, a whole line, once it takes connections.
-end=$((SECONDS + 30))
-until read -r n < "$dir/display"; do
+n=""
+for _ in $(seq 600); do
+    read -r n < "$dir/display" && break
+    n=""
     kill -0 $xvfb 2> /dev/null || { cat "$dir/log" >&2; echo "xvfb.sh: Xvfb ended before giving its display number" >&2; exit 1; }
-    [ $SECONDS -lt $end ] || { cat "$dir/log" >&2; echo "xvfb.sh: no display number from Xvfb in 30 s" >&2; exit 1; }
     sleep 0.05
 done
+[ -n "$n" ] || { cat "$dir/log" >&2; echo "xvfb.sh: no display number from Xvfb in 30 s" >&2; exit 1; }
 : > "$dir/client"
 xauth -q -f "$dir/client" add ":$n" MIT-MAGIC-COOKIE-1 "$cookie"
 status=0
