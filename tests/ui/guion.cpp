@@ -203,9 +203,12 @@ class Guion {
             Clic(Opcion(n));
         } else if (orden == "toggle") { // the other of two options
             Clic(Opcion(Opcion(0)->isChecked() ? 1 : 0));
-        } else if (orden == "press") { // press sq K | button N, in front, as a screen reader does
+        } else if (orden == "press") { // press sq K | button N | menu ITEM, in front, as a screen
+                                       // reader does
             const int i = p.value(1).toInt();
-            Pulsa(p.value(0) == "sq" ? Form1().cmdtir[i] : Boton(i));
+            Pulsa(p.value(0) == "sq"     ? static_cast<QObject *>(Form1().cmdtir[i])
+                  : p.value(0) == "menu" ? static_cast<QObject *>(Item(p.value(1)))
+                                         : Boton(i));
             QCoreApplication::processEvents(); // it lands once the loop is back
         } else if (orden == "behind") {        // behind sq K | button N | menu ITEM | close
             // The window under the one in front: the owner of a message box,
