@@ -59,12 +59,10 @@ Dialogo::Dialogo(const QString &titulo, int anchoTw, int altoTw)
     connect(this, &QDialog::finished, this, [this] { Descargate(); });
 }
 
-void Dialogo::paintEvent(QPaintEvent *e)
+void Dialogo::paintEvent(QPaintEvent *)
 {
     if (fondo_.isValid())
         QPainter(this).fillRect(rect(), fondo_);
-    else
-        QDialog::paintEvent(e);
 }
 
 void Dialogo::MuestraModal()

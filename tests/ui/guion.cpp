@@ -237,6 +237,9 @@ class Guion {
                 return Caja(n)->insert(texto);
             QApplication::clipboard()->setText(texto);
             QTest::keyClick(Caja(n), Qt::Key_V, Qt::ControlModifier);
+        } else if (orden ==
+                   "write") { // write N |TEXT|: the box's value, as a screen reader sets it
+            Accesible(Caja(n))->setText(QAccessible::Value, texto);
         } else if (orden == "clear") {
             Caja(n)->clear();
         } else if (orden == "key") { // key NAME [box N | opt N]
