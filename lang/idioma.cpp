@@ -8,34 +8,6 @@
 #include <QRadioButton>
 #include <QTranslator>
 
-QString strAcerca;
-QString strSalir;
-QString strSeleccionIdioma;
-QString strTitulo;
-QString strOpciones;
-QString strAcercaTexto;
-QString strAceptar;
-QString strCancelar;
-QString strAcercaTitulo;
-QString strJugadorUno;
-QString strJugadorDos;
-QString strFacil;
-QString strMedio;
-QString strNoGanas;
-QString strNivelMenu;
-QString strNuevoJuego;
-QString strOponentesMenu;
-QString strOponentes;
-QString strNombrePrimero;
-QString strNombreSegundo;
-QString strGana;
-QString strFelicidades;
-QString strEmpate;
-QString strTurnoDe;
-QString strPierdes;
-QString strTuTurno;
-QString strNivel;
-
 namespace {
 
 // One text in both languages.

@@ -3,33 +3,33 @@
 
 #include <QString>
 
-extern QString strAcerca;
-extern QString strSalir;
-extern QString strSeleccionIdioma;
-extern QString strTitulo;
-extern QString strOpciones;
-extern QString strAcercaTexto;
-extern QString strAceptar;
-extern QString strCancelar;
-extern QString strAcercaTitulo;
-extern QString strJugadorUno;
-extern QString strJugadorDos;
-extern QString strFacil;
-extern QString strMedio;
-extern QString strNoGanas;
-extern QString strNivelMenu;
-extern QString strNuevoJuego;
-extern QString strOponentesMenu;
-extern QString strOponentes;
-extern QString strNombrePrimero;
-extern QString strNombreSegundo;
-extern QString strGana;
-extern QString strFelicidades;
-extern QString strEmpate;
-extern QString strTurnoDe;
-extern QString strPierdes;
-extern QString strTuTurno;
-extern QString strNivel;
+inline QString strAcerca;
+inline QString strSalir;
+inline QString strSeleccionIdioma;
+inline QString strTitulo;
+inline QString strOpciones;
+inline QString strAcercaTexto;
+inline QString strAceptar;
+inline QString strCancelar;
+inline QString strAcercaTitulo;
+inline QString strJugadorUno;
+inline QString strJugadorDos;
+inline QString strFacil;
+inline QString strMedio;
+inline QString strNoGanas;
+inline QString strNivelMenu;
+inline QString strNuevoJuego;
+inline QString strOponentesMenu;
+inline QString strOponentes;
+inline QString strNombrePrimero;
+inline QString strNombreSegundo;
+inline QString strGana;
+inline QString strFelicidades;
+inline QString strEmpate;
+inline QString strTurnoDe;
+inline QString strPierdes;
+inline QString strTuTurno;
+inline QString strNivel;
 
 // Overwrites all the texts above with the language of the language window's
 // selected option, English or Spanish, and sets that window's own label and

@@ -40,11 +40,13 @@ QFont FuentePrograma(double puntos, bool negrita)
     return f;
 }
 
-QPushButton *CreaBoton(QWidget *padre, const QString &texto, const QRect &geometria)
+QPushButton *CreaBoton(QWidget *padre, const QString &texto, const QRect &geometria,
+                       const std::function<void()> &Click)
 {
     auto *b = new QPushButton(texto, padre);
     b->setGeometry(geometria);
     b->setAutoDefault(true); // Return and Enter press it while it has the focus
+    QObject::connect(b, &QPushButton::clicked, padre, Click);
     return b;
 }
 

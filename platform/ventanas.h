@@ -33,9 +33,10 @@ QIcon IconoPrograma();
 // "MS Sans Serif" where it exists, otherwise a face with its widths.
 QFont FuentePrograma(double puntos = 8.25, bool negrita = false);
 
-// A push button at its place in its container; Return and Enter press it
-// while it has the focus.
-QPushButton *CreaBoton(QWidget *padre, const QString &texto, const QRect &geometria);
+// A push button at its place in its container, running Click when pressed;
+// Return and Enter press it while it has the focus.
+QPushButton *CreaBoton(QWidget *padre, const QString &texto, const QRect &geometria,
+                       const std::function<void()> &Click);
 
 // Centres a top-level window on its screen. Only windows shown before the
 // main window use it: Qt centres a modal dialog over the active window.

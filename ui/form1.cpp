@@ -61,14 +61,13 @@ VentanaPrincipal::VentanaPrincipal()
 
     const QFont marcas = FuentePrograma(24);
     for (Integer k = 0; k < 9; ++k) {
-        auto *b = CreaBoton(superficie, QString(),
-                            TwRect(615 + 1200 * (k % 3), 870 + 1080 * (k / 3), 945, 825));
-        b->setFont(marcas);
-        connect(b, &QPushButton::clicked, this, [this, k] { cmdtir_Click(k); });
-        cmdtir[k] = b;
+        cmdtir[k] = CreaBoton(superficie, QString(),
+                              TwRect(615 + 1200 * (k % 3), 870 + 1080 * (k / 3), 945, 825),
+                              [this, k] { cmdtir_Click(k); });
+        cmdtir[k]->setFont(marcas);
     }
-    cmdnuevo = CreaBoton(superficie, QStringLiteral("&Nuevo Juego"), TwRect(1695, 4380, 1215, 405));
-    connect(cmdnuevo, &QPushButton::clicked, this, &VentanaPrincipal::cmdnuevo_Click);
+    cmdnuevo = CreaBoton(superficie, QStringLiteral("&Nuevo Juego"), TwRect(1695, 4380, 1215, 405),
+                         [this] { cmdnuevo_Click(); });
 
     // Tab order, a cycle: the bottom-right square, 0 to 7 as built, then new game.
     setTabOrder(cmdtir[7], cmdnuevo);

@@ -11,8 +11,8 @@ DialogoAcerca::DialogoAcerca() : Dialogo(QStringLiteral("About..."), 5625, 2130)
     setFixedSize(size());
     PintaFondo(QColor(192, 192, 192));
 
-    cmdAceptar = CreaBoton(this, QStringLiteral("&&Ok"), TwRect(2145, 1680, 1335, 375));
-    connect(cmdAceptar, &QPushButton::clicked, this, &DialogoAcerca::cmdAceptar_Click);
+    cmdAceptar = CreaBoton(this, QStringLiteral("&&Ok"), TwRect(2145, 1680, 1335, 375),
+                           [this] { cmdAceptar_Click(); });
     Panel = new Panel3D(this, TwRect(120, 90, 5355, 1515), Qt::AlignLeft | Qt::AlignTop);
     Panel->setMargin(2);
 }

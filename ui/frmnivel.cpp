@@ -10,8 +10,8 @@ namespace ui {
 DialogoNivel::DialogoNivel() : Dialogo(QStringLiteral("Nivel de juego"), 2895, 1890), optNivel(this)
 {
     setFixedSize(size());
-    cmdok = CreaBoton(this, QStringLiteral("&Aceptar"), TwRect(900, 1440, 1095, 375));
-    connect(cmdok, &QPushButton::clicked, this, &DialogoNivel::cmdok_Click);
+    cmdok = CreaBoton(this, QStringLiteral("&Aceptar"), TwRect(900, 1440, 1095, 375),
+                      [this] { cmdok_Click(); });
 
     SSPanel1 = CreaPanel(this, TwRect(120, 120, 2625, 1245));
     optNivel.Agrega(SSPanel1, TwRect(240, 150, 1680, 240), QStringLiteral("1._ Fácil."));

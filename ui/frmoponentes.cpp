@@ -11,10 +11,10 @@ namespace ui {
 
 DialogoOponentes::DialogoOponentes() : Dialogo(QStringLiteral("Oponentes"), 3990, 2235)
 {
-    Command1 = CreaBoton(this, QStringLiteral("&Aceptar"), TwRect(728, 1800, 975, 375));
-    connect(Command1, &QPushButton::clicked, this, &DialogoOponentes::Command1_Click);
-    Command2 = CreaBoton(this, QStringLiteral("&Cancelar"), TwRect(2288, 1800, 975, 375));
-    connect(Command2, &QPushButton::clicked, this, &DialogoOponentes::Command2_Click);
+    Command1 = CreaBoton(this, QStringLiteral("&Aceptar"), TwRect(728, 1800, 975, 375),
+                         [this] { Command1_Click(); });
+    Command2 = CreaBoton(this, QStringLiteral("&Cancelar"), TwRect(2288, 1800, 975, 375),
+                         [this] { Command2_Click(); });
 
     SSPanel1 = CreaPanel(this, TwRect(60, 60, 3885, 1665));
     label[0] = new QLabel(QStringLiteral("Nombre del primer oponente:"), SSPanel1);

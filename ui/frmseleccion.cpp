@@ -16,10 +16,10 @@ VentanaIdioma::VentanaIdioma()
     setFixedSize(size());
     PintaFondo(QColor(192, 192, 192));
 
-    cmdAceptar = CreaBoton(this, QStringLiteral("&Ok"), TwRect(120, 1440, 1095, 375));
-    connect(cmdAceptar, &QPushButton::clicked, this, &VentanaIdioma::cmdAceptar_Click);
-    cmdSalir = CreaBoton(this, QStringLiteral("&Exit"), TwRect(1920, 1440, 1095, 375));
-    connect(cmdSalir, &QPushButton::clicked, this, &VentanaIdioma::cmdSalir_Click);
+    cmdAceptar = CreaBoton(this, QStringLiteral("&Ok"), TwRect(120, 1440, 1095, 375),
+                           [this] { cmdAceptar_Click(); });
+    cmdSalir = CreaBoton(this, QStringLiteral("&Exit"), TwRect(1920, 1440, 1095, 375),
+                         [this] { cmdSalir_Click(); });
 
     Panel = CreaPanel(this, TwRect(90, 60, 2925, 1305));
     lblGracias = new QLabel(QStringLiteral("Thank you by playing my game"), Panel);
