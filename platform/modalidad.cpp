@@ -25,10 +25,7 @@ QAccessibleInterface *Envuelve(QAccessibleInterface *interno);
 // An object's accessibility interface as Qt makes it, behind the guard: what
 // assistive technology reads goes through unchanged; what it does happens
 // only where the player can act.
-class Vigilado : public QAccessibleInterface,
-                 public QAccessibleActionInterface,
-                 public QAccessibleTextInterface,
-                 public QAccessibleEditableTextInterface {
+class Vigilado : public QAccessibleInterface, public QAccessibleActionInterface {
   public:
     explicit Vigilado(QAccessibleInterface *interno) : i_(interno), objeto_(interno->object()) {}
     // Qt's cache deletes Qt's interface with its object, as it deletes this
@@ -71,20 +68,15 @@ class Vigilado : public QAccessibleInterface,
     QColor foregroundColor() const override { return i_->foregroundColor(); }
     QColor backgroundColor() const override { return i_->backgroundColor(); }
 
+    // Text is read and edited through Qt's own interface: a name box itself
+    // refuses an edit, a caret or a selection it may not take now.
     void *interface_cast(QAccessible::InterfaceType t) override
     {
-        if (!i_->interface_cast(t))
-            return nullptr;
-        switch (t) {
-        case QAccessible::ActionInterface:
+        if (t == QAccessible::ActionInterface && i_->actionInterface())
             return static_cast<QAccessibleActionInterface *>(this);
-        case QAccessible::TextInterface:
-            return static_cast<QAccessibleTextInterface *>(this);
-        case QAccessible::EditableTextInterface:
-            return static_cast<QAccessibleEditableTextInterface *>(this);
-        default: // nothing else acts: the message box's picture, for one
-            return nullptr;
-        }
+        if (t == QAccessible::TextInterface || t == QAccessible::EditableTextInterface)
+            return i_->interface_cast(t);
+        return nullptr; // nothing else acts: the message box's picture, for one
     }
 
     // Actions.
@@ -109,73 +101,6 @@ class Vigilado : public QAccessibleInterface,
             return;
         }
         i_->actionInterface()->doAction(n);
-    }
-
-    // Text, read as it is; the cursor and selection move only where one may act.
-    QAccessibleTextInterface *T() const { return i_->textInterface(); }
-    void selection(int n, int *inicio, int *fin) const override { T()->selection(n, inicio, fin); }
-    int selectionCount() const override { return T()->selectionCount(); }
-    void addSelection(int inicio, int fin) override
-    {
-        if (Alcanzable(object()))
-            T()->addSelection(inicio, fin);
-    }
-    void removeSelection(int n) override
-    {
-        if (Alcanzable(object()))
-            T()->removeSelection(n);
-    }
-    void setSelection(int n, int inicio, int fin) override
-    {
-        if (Alcanzable(object()))
-            T()->setSelection(n, inicio, fin);
-    }
-    int cursorPosition() const override { return T()->cursorPosition(); }
-    void setCursorPosition(int p) override
-    {
-        if (Alcanzable(object()))
-            T()->setCursorPosition(p);
-    }
-    QString text(int inicio, int fin) const override { return T()->text(inicio, fin); }
-    QString textBeforeOffset(int p, QAccessible::TextBoundaryType b, int *inicio,
-                             int *fin) const override
-    {
-        return T()->textBeforeOffset(p, b, inicio, fin);
-    }
-    QString textAfterOffset(int p, QAccessible::TextBoundaryType b, int *inicio,
-                            int *fin) const override
-    {
-        return T()->textAfterOffset(p, b, inicio, fin);
-    }
-    QString textAtOffset(int p, QAccessible::TextBoundaryType b, int *inicio,
-                         int *fin) const override
-    {
-        return T()->textAtOffset(p, b, inicio, fin);
-    }
-    int characterCount() const override { return T()->characterCount(); }
-    QRect characterRect(int p) const override { return T()->characterRect(p); }
-    int offsetAtPoint(const QPoint &punto) const override { return T()->offsetAtPoint(punto); }
-    void scrollToSubstring(int inicio, int fin) override { T()->scrollToSubstring(inicio, fin); }
-    QString attributes(int p, int *inicio, int *fin) const override
-    {
-        return T()->attributes(p, inicio, fin);
-    }
-
-    // Editing.
-    void deleteText(int inicio, int fin) override
-    {
-        if (Alcanzable(object()))
-            i_->editableTextInterface()->deleteText(inicio, fin);
-    }
-    void insertText(int p, const QString &texto) override
-    {
-        if (Alcanzable(object()))
-            i_->editableTextInterface()->insertText(p, texto);
-    }
-    void replaceText(int inicio, int fin, const QString &texto) override
-    {
-        if (Alcanzable(object()))
-            i_->editableTextInterface()->replaceText(inicio, fin, texto);
     }
 
   private:

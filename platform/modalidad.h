@@ -3,7 +3,8 @@
 // program. Qt's modality stops the keyboard, the mouse and the window
 // manager's close button; an assistive technology reaches widgets and menu
 // items directly (AT-SPI actions click, trigger, toggle, focus and set text),
-// so every object's accessibility interface goes through one guard here.
+// so every object's actions go through one guard here, and a name box
+// refuses the edits, carets and selections that reach it behind one.
 
 class QDialog;
 class QObject;

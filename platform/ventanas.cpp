@@ -155,14 +155,36 @@ CajaTexto::CajaTexto(QWidget *padre, const QRect &geometria, QValidator *validad
 {
     setGeometry(geometria);
     setValidator(validador);
-    // Text set by code or by assistive technology passes no validator: what
-    // it would refuse is undone.
+    // Text set by code or by assistive technology passes no validator, and
+    // assistive technology reaches a box behind a modal window too: what the
+    // validator would refuse, or the box may not take now, is undone.
     connect(this, &QLineEdit::textChanged, this, [this] {
-        if (hasAcceptableInput())
+        if (hasAcceptableInput() && Alcanzable(this))
             aceptado_ = text();
         else
             setText(aceptado_);
     });
+    // So are the caret and the selection.
+    connect(this, &QLineEdit::cursorPositionChanged, this, &CajaTexto::GuardaMarca);
+    connect(this, &QLineEdit::selectionChanged, this, &CajaTexto::GuardaMarca);
+}
+
+void CajaTexto::GuardaMarca()
+{
+    const std::array ahora{cursorPosition(), selectionStart(), selectionLength()};
+    if (Alcanzable(this) || ahora == marca_) {
+        marca_ = ahora;
+        return;
+    }
+    const auto [cursor, inicio, largo] = marca_;
+    if (largo == 0) {
+        deselect();
+        setCursorPosition(cursor);
+    } else if (cursor == inicio) { // selected backwards
+        setSelection(inicio + largo, -largo);
+    } else {
+        setSelection(inicio, largo);
+    }
 }
 
 void CajaTexto::keyPressEvent(QKeyEvent *e)

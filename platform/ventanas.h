@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QPointer>
 
+#include <array>
 #include <functional>
 
 class QButtonGroup;
@@ -148,7 +149,9 @@ class CajaTexto : public QLineEdit {
     void keyPressEvent(QKeyEvent *e) override;
 
   private:
-    QString aceptado_; // the text as last taken
+    void GuardaMarca();
+    QString aceptado_;                   // the text as last taken
+    std::array<int, 3> marca_{0, -1, 0}; // caret, selection start and length as last taken
 };
 
 // A modal information box with one OK button, showing its owner's icon;
