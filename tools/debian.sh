@@ -3,10 +3,13 @@
 # release made from Debian's archive with debootstrap (kept and reused under
 # ROOTS, made afresh when missing), on a fresh clone of this repository's
 # HEAD. Nothing stays mounted when it ends, however it ends. As root.
-#   debian.sh [SUITE]        SUITE: trixie (default), forky, ...
+#   debian.sh [SUITE [COMMAND]]   SUITE: trixie (default), forky, ...
+# COMMAND, run in the clone, is the test command unless given: say
+# 'bash tools/test.sh && bash tools/repite.sh 20' to repeat the slow tests there.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 suite=${1:-trixie}
+command=${2:-bash tools/test.sh}
 roots=${ROOTS:-/var/tmp/supertirlo-roots}
 root=$roots/$suite
 clone=/root/supertirlo
@@ -79,6 +82,6 @@ t=$SECONDS
 # Processes of its own: an Orca started in the root ends no Orca outside it.
 unshare --pid --fork --mount-proc="$root/proc" chroot "$root" env -i HOME=/root PATH=/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin \
     LANG=C.UTF-8 TERM="${TERM:-dumb}" CI="${CI:-}" \
-    bash -c "echo Debian \$(cat /etc/debian_version); cd $clone && bash tools/test.sh"
-took "the test command" $t
+    bash -c "echo Debian \$(cat /etc/debian_version); cd $clone && $command"
+took "'$command'" $t
 took "all" $start
