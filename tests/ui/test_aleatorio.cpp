@@ -106,7 +106,12 @@ class Jugador {
         ASSERT_LE(dialogos, 1);
     }
 
-    static bool Aislante(QChar c) { return c.unicode() >= 0x2066 && c.unicode() <= 0x2069; }
+    // The direction isolates, by Unicode's own classes.
+    static bool Aislante(QChar c)
+    {
+        return QList{QChar::DirLRI, QChar::DirRLI, QChar::DirFSI, QChar::DirPDI}.contains(
+            c.direction());
+    }
 
     // Nothing assistive technology reads of an object or the objects in it
     // holds a direction isolate (U+2066 to U+2069), which no one should read.
