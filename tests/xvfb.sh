@@ -32,4 +32,6 @@ done
 xauth -q -f "$dir/client" add ":$n" MIT-MAGIC-COOKIE-1 "$cookie"
 status=0
 DISPLAY=:$n XAUTHORITY=$dir/client "$@" || status=$?
+# A failure shows what the X server said too.
+[ $status = 0 ] || { echo "xvfb.sh: display :$n, the X server's log:"; cat "$dir/log"; } >&2
 exit $status
