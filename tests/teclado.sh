@@ -29,7 +29,7 @@ script -qfc "orca --replace -u '$sesion.d' --debug-file /dev/stdout" \
     "$sesion.d/orca" > /dev/null 2>&1 &
 orca=\$!
 for _ in \$(seq 300); do grep -qs "Screen reader on" "$sesion.d/orca" && break; sleep 0.1; done
-grep -qs "Screen reader on" "$sesion.d/orca" || { echo "Orca not on in 30 s"; exit 1; }
+grep -qs "Screen reader on" "$sesion.d/orca" || { tail -n 30 "$sesion.d/orca"; echo "Orca not on in 30 s"; exit 1; }
 status=0
 /usr/bin/python3 "$here/teclado.py" "$(realpath "$1")" "$sesion.d/orca" || status=\$?
 kill \$orca %1 2> /dev/null || true
