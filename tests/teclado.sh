@@ -10,6 +10,8 @@ mkdir "$sesion.d"
 trap 'rm -rf "$sesion" "$sesion.d"' EXIT
 cat > "$sesion" <<SESION
 set -eu
+# Settings of this session's own: Orca's, and those it keeps in dconf.
+export XDG_DATA_HOME="$sesion.d/data" XDG_CONFIG_HOME="$sesion.d/config"
 openbox > /dev/null 2>&1 &
 # The window manager managing (it lists what it supports only once it is,
 # after claiming the screen), so new windows get the focus, and the
@@ -25,7 +27,7 @@ listo || { echo "no window manager or accessibility bus in 10 s"; exit 1; }
 # file; through a terminal (script) it writes each line as it comes. It finds
 # no speech server here, and says all the same (with speech off, Orca 48
 # would not say a notification at all).
-script -qfc "orca --replace -u '$sesion.d' --debug-file /dev/stdout" \
+script -qfc "orca --replace --debug-file /dev/stdout" \
     "$sesion.d/orca" > /dev/null 2>&1 &
 orca=\$!
 for _ in \$(seq 300); do grep -qs "Screen reader on" "$sesion.d/orca" && break; sleep 0.1; done
@@ -37,9 +39,9 @@ exit \$status
 SESION
 # Orca, as it starts, ends every other Orca of the same user on the machine,
 # which it finds by process name: where it can, the session has a process
-# namespace of its own, so that two sessions never end each other's Orca.
-# (In a root made by tools/debian.sh the whole run has one already.)
+# namespace of its own, so that two sessions never end each other's Orca,
+# and an Orca that outlives its session goes with the namespace.
 solo=(unshare --pid --fork --mount-proc)
 [ "$(id -u)" = 0 ] || solo=(unshare --user --map-root-user --pid --fork --mount-proc)
-"${solo[@]}" true 2> /dev/null || solo=()
+"${solo[@]}" true 2> /dev/null || { echo "teclado.sh: no process namespace of its own here" >&2; solo=(); }
 bash "$here/xvfb.sh" "${solo[@]}" dbus-run-session -- bash "$sesion"

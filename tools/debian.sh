@@ -69,6 +69,10 @@ if [ ! -e "$root/.made" ]; then
 fi
 
 cp /etc/resolv.conf "$root/etc/resolv.conf"
+# The root a mount of its own, so that a test there can take a mount (and
+# process) namespace of its own too: unshare makes the new namespace's "/"
+# private, which needs "/" to be a mount.
+mount --bind "$root" "$root"
 mount -t proc proc "$root/proc"
 mount --rbind /sys "$root/sys"
 mount --make-rslave "$root/sys"
