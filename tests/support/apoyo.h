@@ -29,9 +29,8 @@ struct AzarGuionado final : FuenteAzar {
     int excedidas = 0;
 };
 
-// The largest float below 1 and below 0.5.
+// The largest float below 1.
 constexpr float kCasiUno = 0.99999994f;
-constexpr float kCasiMedio = 0.49999997f;
 
 // The lines of a file of tests/datos that are neither empty nor comments.
 std::vector<std::string> Filas(const std::string &archivo);
