@@ -230,9 +230,11 @@ class Guion {
                 return Caja(n)->insert(texto);
             QApplication::clipboard()->setText(texto);
             QTest::keyClick(Caja(n), Qt::Key_V, Qt::ControlModifier);
-        } else if (orden ==
-                   "write") { // write N |TEXT|: the box's value, as a screen reader sets it
-            Accesible(Caja(n))->setText(QAccessible::Value, texto);
+        } else if (orden == "write") { // write N |TEXT|: box N's contents, as AT-SPI sets them
+            QAccessibleInterface *caja = Accesible(Caja(n));
+            ASSERT_TRUE(caja->editableTextInterface() && caja->textInterface());
+            caja->editableTextInterface()->replaceText(0, caja->textInterface()->characterCount(),
+                                                       texto);
         } else if (orden == "clear") {
             Caja(n)->clear();
         } else if (orden == "key") { // key NAME [box N | opt N]
