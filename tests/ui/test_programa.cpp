@@ -47,7 +47,7 @@ INSTANTIATE_TEST_SUITE_P(Programa, Guiones, ::testing::ValuesIn(LeeGuiones()),
                              return nombre + (g.param.ingles ? "_en" : "_es");
                          });
 
-// Each window as built, with the program's icon at 32x32 for its title bar.
+// Each window as built, with the program's icon for its title bar at 1x and 2x.
 TEST_F(Programa, EveryWindowAsDesigned)
 {
     const std::pair<const char *, QWidget *> ventanas[] = {
@@ -58,7 +58,7 @@ TEST_F(Programa, EveryWindowAsDesigned)
         {"frmSeleccion", new ui::VentanaIdioma}};
     for (auto [clave, w] : ventanas) {
         EXPECT_EQ(Textos(w, true), Datos(clave, "design")) << clave;
-        EXPECT_TRUE(w->windowIcon().availableSizes().contains(QSize(32, 32))) << clave;
+        EXPECT_EQ(w->windowIcon().availableSizes(), QList<QSize>({{32, 32}, {64, 64}})) << clave;
     }
 }
 
