@@ -204,16 +204,20 @@ class Guion {
         } else if (orden == "toggle") { // the other of two options
             Clic(Opcion(Opcion(0)->isChecked() ? 1 : 0));
         } else if (orden == "press" || orden == "behind") {
-            // press/behind sq K | button N | menu ITEM, or behind close: in the
-            // window in front, or in the one under it (the owner of a message
-            // box, else the main window); closed as the window manager asks,
-            // or pressed as a screen reader does.
+            // press/behind sq K | button N | menu ITEM | select BOX FROM TO, or
+            // behind close: in the window in front, or in the one under it (the
+            // owner of a message box, else the main window); closed as the
+            // window manager asks, or pressed or selected as a screen reader does.
             QWidget *v = orden == "press"            ? Delante()
                          : Delante()->parentWidget() ? Delante()->parentWidget()
                                                      : &Form1();
             const int i = p.value(1).toInt();
             if (p.value(0) == "close")
                 return v->close(), void();
+            if (p.value(0) == "select")
+                return Accesible(v->findChildren<QLineEdit *>().at(i))
+                    ->textInterface()
+                    ->setSelection(0, p.value(2).toInt(), p.value(3).toInt());
             Pulsa(p.value(0) == "sq"     ? static_cast<QObject *>(Form1().cmdtir[i])
                   : p.value(0) == "menu" ? static_cast<QObject *>(Item(p.value(1)))
                                          : v->findChildren<QPushButton *>().at(i));
@@ -322,6 +326,8 @@ class Guion {
             EXPECT_EQ(Delante()->focusWidget(), Caja(p.value(0).toInt()));
         } else if (orden == "text") {
             EXPECT_EQ(Caja(p.value(0).toInt())->text(), texto);
+        } else if (orden == "selection") {
+            EXPECT_EQ(Caja(p.value(0).toInt())->selectedText(), texto);
         } else if (orden == "selected") {
             EXPECT_TRUE(Opcion(p.value(0).toInt())->isChecked());
         } else {
