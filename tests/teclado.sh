@@ -12,17 +12,26 @@ cat > "$sesion" <<SESION
 set -eu
 # Settings of this session's own: Orca's, and those it keeps in dconf.
 export XDG_DATA_HOME="$sesion.d/data" XDG_CONFIG_HOME="$sesion.d/config"
-openbox > /dev/null 2>&1 &
+openbox > "$sesion.d/openbox" 2>&1 &
 # The window manager managing (it lists what it supports only once it is,
 # after claiming the screen), so new windows get the focus, and the
-# accessibility bus started (asking for its address does), before the game.
-listo() {
-    xprop -root _NET_SUPPORTED 2> /dev/null | grep -q _NET_ACTIVE_WINDOW &&
-        dbus-send --session --print-reply --dest=org.a11y.Bus /org/a11y/bus \
-            org.a11y.Bus.GetAddress > /dev/null 2>&1
+# accessibility bus started (asking for its address does), before the game;
+# each may take seconds on a loaded machine.
+gestor() { xprop -root _NET_SUPPORTED 2> /dev/null | grep -q _NET_ACTIVE_WINDOW; }
+bus() {
+    dbus-send --session --print-reply --reply-timeout=5000 --dest=org.a11y.Bus /org/a11y/bus \
+        org.a11y.Bus.GetAddress > /dev/null 2>&1
 }
-for _ in \$(seq 100); do listo && break; sleep 0.1; done
-listo || { echo "no window manager or accessibility bus in 10 s"; exit 1; }
+hasta=\$((SECONDS + 30))
+until gestor; do
+    [ \$SECONDS -lt \$hasta ] || { cat "$sesion.d/openbox"; echo "the window manager not managing in 30 s"; exit 1; }
+    sleep 0.1
+done
+hasta=\$((SECONDS + 30))
+until bus; do
+    [ \$SECONDS -lt \$hasta ] || { echo "no accessibility bus in 30 s"; exit 1; }
+    sleep 0.1
+done
 # Orca, the desktop's screen reader, writes all it would say into its debug
 # file; through a terminal (script) it writes each line as it comes. It finds
 # no speech server here, and says all the same (with speech off, Orca 48
