@@ -6,9 +6,7 @@
 // panel reads clean and the names are sane; and the thousands of windows
 // opened and closed on the way must leave none behind, nor any of their
 // accessibility interfaces (and LeakSanitizer, in the sanitizer build, no memory).
-#include "accesible.h"
 #include "apoyo_ui.h"
-#include "idioma.h"
 
 #include <algorithm>
 #include <random>
