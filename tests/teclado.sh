@@ -19,19 +19,14 @@ openbox > "$sesion.d/openbox" 2>&1 &
 # each may take seconds on a loaded machine.
 gestor() { xprop -root _NET_SUPPORTED 2> /dev/null | grep -q _NET_ACTIVE_WINDOW; }
 bus() {
-    dbus-send --session --print-reply --reply-timeout=5000 --dest=org.a11y.Bus /org/a11y/bus \
+    dbus-send --session --print-reply --reply-timeout=1000 --dest=org.a11y.Bus /org/a11y/bus \
         org.a11y.Bus.GetAddress > /dev/null 2>&1
 }
-hasta=\$((SECONDS + 30))
-until gestor; do
-    [ \$SECONDS -lt \$hasta ] || { cat "$sesion.d/openbox"; echo "the window manager not managing in 30 s"; exit 1; }
-    sleep 0.1
-done
-hasta=\$((SECONDS + 30))
-until bus; do
-    [ \$SECONDS -lt \$hasta ] || { echo "no accessibility bus in 30 s"; exit 1; }
-    sleep 0.1
-done
+for _ in \$(seq 300); do gestor && break; sleep 0.1; done
+gestor || { cat "$sesion.d/openbox"; echo "the window manager not managing in 30 s"; exit 1; }
+# Each try waits at most a second for the answer.
+for _ in \$(seq 30); do bus && break; sleep 1; done
+bus || { echo "no accessibility bus after 30 tries a second apart"; exit 1; }
 # Orca, the desktop's screen reader, writes all it would say into its debug
 # file; through a terminal (script) it writes each line as it comes. It finds
 # no speech server here, and says all the same (with speech off, Orca 48
