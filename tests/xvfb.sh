@@ -16,7 +16,10 @@ cookie=$(od -An -N16 -tx1 /dev/urandom | tr -d ' \n')
 xauth -q -f "$dir/server" add :0 MIT-MAGIC-COOKIE-1 "$cookie"
 # There before Xvfb opens it, for the wait below to read from the start.
 : > "$dir/display"
-Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp -auth "$dir/server" \
+# -noreset: otherwise the server resets each time its last client leaves,
+# and turns away a client that connects meanwhile (a window manager starting
+# while a probe of the screen ends, say).
+Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp -noreset -auth "$dir/server" \
     3>> "$dir/display" > "$dir/log" 2>&1 &
 xvfb=$!
 # It writes the number, a whole line, once it takes connections.
