@@ -38,6 +38,10 @@ for _ in \$(seq 300); do grep -qs "Screen reader on" "$sesion.d/orca" && break; 
 grep -qs "Screen reader on" "$sesion.d/orca" || { tail -n 30 "$sesion.d/orca"; echo "Orca not on in 30 s"; exit 1; }
 status=0
 /usr/bin/python3 "$here/teclado.py" "$(realpath "$1")" "$sesion.d/orca" || status=\$?
+# On a failure, Orca's own account of the windows and notifications it
+# took or dropped, and why.
+[ \$status = 0 ] || grep -aE 'Dequeued (window:|object:state-changed:showing.*notification)|obsoleted|Not processing|defunct|active script to' \
+    "$sesion.d/orca" | cut -c 1-220 | tail -n 40
 kill \$orca %1 2> /dev/null || true
 exit \$status
 SESION
