@@ -30,8 +30,11 @@ bus || { echo "no accessibility bus after 30 tries a second apart"; exit 1; }
 # Orca, the desktop's screen reader, writes all it would say into its debug
 # file; through a terminal (script) it writes each line as it comes. It finds
 # no speech server here, and says all the same (with speech off, Orca 48
-# would not say a notification at all).
-script -qfc "orca --replace --debug-file /dev/stdout" \
+# would not say a notification at all). Not --replace: that leaves an alarm
+# set whose handler, two seconds on, writes to the debug file; landing in the
+# middle of a write, it broke off what Orca was presenting (once in about 50
+# sessions on a loaded machine).
+script -qfc "orca --debug-file /dev/stdout" \
     "$sesion.d/orca" > /dev/null 2>&1 &
 orca=\$!
 for _ in \$(seq 300); do grep -qs "Screen reader on" "$sesion.d/orca" && break; sleep 0.1; done
@@ -45,10 +48,10 @@ status=0
 kill \$orca %1 2> /dev/null || true
 exit \$status
 SESION
-# Orca, as it starts, ends every other Orca of the same user on the machine,
+# Orca will not start beside another Orca of the same user on the machine,
 # which it finds by process name: where it can, the session has a process
-# namespace of its own, so that two sessions never end each other's Orca,
-# and an Orca that outlives its session goes with the namespace.
+# namespace of its own, so that two sessions run at once, and an Orca that
+# outlives its session goes with the namespace.
 solo=(unshare --pid --fork --mount-proc)
 [ "$(id -u)" = 0 ] || solo=(unshare --user --map-root-user --pid --fork --mount-proc)
 "${solo[@]}" true 2> /dev/null || { echo "teclado.sh: no process namespace of its own here" >&2; solo=(); }
