@@ -43,7 +43,7 @@ status=0
 /usr/bin/python3 "$here/teclado.py" "$(realpath "$1")" "$sesion.d/orca" || status=\$?
 # On a failure, Orca's own account of the windows and notifications it
 # took or dropped, and why.
-[ \$status = 0 ] || grep -aE 'Dequeued (window:|object:state-changed:showing.*notification)|obsoleted|Not processing|defunct|active script to' \
+[ \$status = 0 ] || grep -aE 'Dequeued (window:|object:state-changed:showing.*notification)|obsoleted|Not processing|defunct|active script to|Exception processing' \
     "$sesion.d/orca" | cut -c 1-220 | tail -n 40
 kill \$orca %1 2> /dev/null || true
 exit \$status
