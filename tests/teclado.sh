@@ -13,6 +13,14 @@ set -eu
 # Settings of this session's own: Orca's, and those it keeps in dconf.
 export XDG_DATA_HOME="$sesion.d/data" XDG_CONFIG_HOME="$sesion.d/config"
 openbox > "$sesion.d/openbox" 2>&1 &
+# espera TRIES PAUSE COMMAND...: the command tried until it holds, at most
+# TRIES times, PAUSE seconds apart; status 1 if it never did.
+espera() {
+    local n=\$1 pausa=\$2
+    shift 2
+    for _ in \$(seq \$n); do "\$@" && return; sleep \$pausa; done
+    return 1
+}
 # The window manager managing (it lists what it supports only once it is,
 # after claiming the screen), so new windows get the focus, and the
 # accessibility bus started (asking for its address does), before the game;
@@ -22,11 +30,9 @@ bus() {
     dbus-send --session --print-reply --reply-timeout=1000 --dest=org.a11y.Bus /org/a11y/bus \
         org.a11y.Bus.GetAddress > /dev/null 2>&1
 }
-for _ in \$(seq 300); do gestor && break; sleep 0.1; done
-gestor || { cat "$sesion.d/openbox"; echo "the window manager not managing in 30 s"; exit 1; }
+espera 300 0.1 gestor || { cat "$sesion.d/openbox"; echo "the window manager not managing in 30 s"; exit 1; }
 # Each try waits at most a second for the answer.
-for _ in \$(seq 30); do bus && break; sleep 1; done
-bus || { echo "no accessibility bus after 30 tries a second apart"; exit 1; }
+espera 30 1 bus || { echo "no accessibility bus after 30 tries a second apart"; exit 1; }
 # Orca, the desktop's screen reader, writes all it would say into its debug
 # file; through a terminal (script) it writes each line as it comes. It finds
 # no speech server here, and says all the same (with speech off, Orca 48
@@ -37,8 +43,7 @@ bus || { echo "no accessibility bus after 30 tries a second apart"; exit 1; }
 script -qfc "orca --debug-file /dev/stdout" \
     "$sesion.d/orca" > /dev/null 2>&1 &
 orca=\$!
-for _ in \$(seq 300); do grep -qs "Screen reader on" "$sesion.d/orca" && break; sleep 0.1; done
-grep -qs "Screen reader on" "$sesion.d/orca" || { tail -n 30 "$sesion.d/orca"; echo "Orca not on in 30 s"; exit 1; }
+espera 300 0.1 grep -qs "Screen reader on" "$sesion.d/orca" || { tail -n 30 "$sesion.d/orca"; echo "Orca not on in 30 s"; exit 1; }
 status=0
 /usr/bin/python3 "$here/teclado.py" "$(realpath "$1")" "$sesion.d/orca" || status=\$?
 # On a failure, Orca's own account of the windows and notifications it
