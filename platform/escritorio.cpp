@@ -1,6 +1,7 @@
 #include "escritorio.h"
 
 #include <QGuiApplication>
+#include <QIcon>
 #include <QStringList>
 
 #include <cstdio>
@@ -51,4 +52,10 @@ void IdentificaPrograma()
     // The Wayland app id, and on X11 (from Qt 6.11) the desktop-file hint;
     // docks also tie X11 windows to the entry by its StartupWMClass.
     QGuiApplication::setDesktopFileName(QStringLiteral("org.supertirlo.SuperTirlo"));
+    // One icon for every window and message box: the 32x32 picture and its
+    // crisp double for high-density screens. One icon, not one per window:
+    // the pixmaps drawn from an icon are cached under that icon's own key.
+    QIcon icono(QStringLiteral(":/icons/32x32/apps/supertirlo.png"));
+    icono.addFile(QStringLiteral(":/icons/64x64/apps/supertirlo.png"));
+    QGuiApplication::setWindowIcon(icono);
 }

@@ -11,5 +11,5 @@
 // standard error saying why, and status 1.
 void EligeSistemaDeVentanas();
 
-// After it: every window names the desktop entry.
+// After it: every window names the desktop entry and carries its icon.
 void IdentificaPrograma();

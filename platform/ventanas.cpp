@@ -15,13 +15,6 @@
 #include <QScreen>
 #include <QWindow>
 
-QIcon IconoPrograma()
-{
-    QIcon icono(QStringLiteral(":/icons/32x32/apps/supertirlo.png"));
-    icono.addFile(QStringLiteral(":/icons/64x64/apps/supertirlo.png"));
-    return icono;
-}
-
 QFont FuentePrograma(double puntos, bool negrita)
 {
     // The classic dialog face where it is installed, else a face with the
@@ -55,8 +48,6 @@ Dialogo::Dialogo(const QString &titulo, int anchoTw, int altoTw)
     setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                    Qt::WindowCloseButtonHint);
     setWindowTitle(titulo);
-    setWindowIcon(IconoPrograma());
-    setFont(FuentePrograma());
     resize(Tw(anchoTw), Tw(altoTw));
     connect(this, &QDialog::finished, this, [this] { Descargate(); });
 }

@@ -5,7 +5,6 @@
 // the raised 3-D panel, text boxes with a KeyDown handler, message boxes.
 
 #include <QDialog>
-#include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
@@ -27,10 +26,6 @@ inline QRect TwRect(int left, int top, int width, int height)
     return {Tw(left), Tw(top), Tw(width), Tw(height)};
 }
 
-// The window icon of every window: the 32x32 picture, and its crisp double
-// for high-density screens.
-QIcon IconoPrograma();
-
 // "MS Sans Serif" where it exists, otherwise a face with its widths.
 QFont FuentePrograma(double puntos = 8.25, bool negrita = false);
 
@@ -48,6 +43,7 @@ void CentraVentana(QWidget *w);
 // unloaded the window is destroyed and never used again.
 template <class VentanaQt> class Formulario : public VentanaQt {
   public:
+    Formulario() { this->setFont(FuentePrograma()); }
     virtual void Form_Load() {}
     bool Descargado() const { return descargado_; }
     // Modeless: visible at once, centred.

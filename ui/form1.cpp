@@ -46,11 +46,9 @@ namespace ui {
 VentanaPrincipal::VentanaPrincipal()
 {
     setWindowTitle(QStringLiteral("Super Tirlo"));
-    setWindowIcon(IconoPrograma());
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                    Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                    Qt::WindowCloseButtonHint);
-    setFont(FuentePrograma());
 
     auto *superficie = new Superficie(this);
     setCentralWidget(superficie);

@@ -4,6 +4,7 @@
 // player does and sees (tests/datos/guiones.txt).
 
 #include "apoyo.h"
+#include "escritorio.h"
 #include "estado.h"
 #include "formularios.h"
 #include "modalidad.h"
