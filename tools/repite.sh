@@ -11,7 +11,7 @@ rounds=${1:-20}
 shift || true
 builds=("$@")
 [ ${#builds[@]} -gt 0 ] || builds=(build build-asan)
-tests='^(teclado|instalacion|ventanas_wayland|ventanas_escala_1\.5|ventanas_escala_2)$'
+tests='^(teclado|instalacion|memoria|ventanas_wayland|ventanas_escala_1\.5|ventanas_escala_2)$'
 logs=$(mktemp -d -t repite.XXXXXX)
 : > "$logs/failed"
 for b in "${builds[@]}"; do
