@@ -168,6 +168,7 @@ class Jugador {
         Carga();
     }
     std::map<std::string, long> crecido;
+    int clics = 0; // the main window clicked for the keys
 
   private:
     void Intenta()
@@ -181,15 +182,25 @@ class Jugador {
                             : p.donde == Menu    ? qobject_cast<QMenu *>(w) && nivel == base_
                                                  : w->isModal() && nivel == base_ + 1);
         if (!listo) {
+            // The main window back on screen with no keys for 2 s, which on
+            // a loaded machine happens (the X server's focus on it, Qt's
+            // nowhere): the player clicks it.
+            if (p.donde == Principal && w == &Form1() && !clicado_ &&
+                plazo_.remainingTime() < 8000) {
+                clicado_ = true;
+                ++clics;
+                w->activateWindow();
+            }
             if (plazo_.hasExpired())
                 qFatal("waited 10 s for the %s of the step charged to %s to take the keys",
                        p.donde == Menu      ? "menu"
                        : p.donde == Dialogo ? "dialog"
                                             : "main window",
                        p.cuenta);
-            return QTimer::singleShot(1, [this] { Intenta(); });
+            return QTimer::singleShot(10, [this] { Intenta(); });
         }
         plazo_ = QDeadlineTimer(10000);
+        clicado_ = false;
         if (++siguiente_ == pasos_->size())
             bucle_.quit();
         else // queued first: it runs in the dialog this step may open
@@ -212,6 +223,7 @@ class Jugador {
 
     const std::vector<Paso> *pasos_ = nullptr;
     size_t siguiente_ = 0;
+    bool clicado_ = false;
     int base_ = 0;
     long ultimo_ = 0;
     std::vector<std::string> cuentas_{"the event loop"};
@@ -264,6 +276,8 @@ int Rondas(int rondas, double limite, bool accesible)
                 double(MonticuloKb() - monticulo) / rondas);
     for (const auto &[cuenta, crecido] : j.crecido)
         std::printf("  %-34s %6.2f kB\n", cuenta.c_str(), double(crecido) / rondas);
+    if (j.clics > 0)
+        std::printf("  the main window took the keys only once clicked, %d times\n", j.clics);
     if (limite <= 0 || kb <= limite)
         return 0;
     std::fprintf(stderr, "memoria: a round keeps %.1f kB, more than %g kB; above, what grew\n", kb,
