@@ -12,7 +12,6 @@ cat > "$sesion" <<SESION
 set -eu
 # Settings of this session's own: Orca's, and those it keeps in dconf.
 export XDG_DATA_HOME="$sesion.d/data" XDG_CONFIG_HOME="$sesion.d/config"
-openbox > "$sesion.d/openbox" 2>&1 &
 # espera TRIES PAUSE COMMAND...: the command tried until it holds, at most
 # TRIES times, PAUSE seconds apart; status 1 if it never did.
 espera() {
@@ -21,16 +20,12 @@ espera() {
     for _ in \$(seq \$n); do "\$@" && return; sleep \$pausa; done
     return 1
 }
-# The window manager managing (it lists what it supports only once it is,
-# after claiming the screen), so new windows get the focus, and the
-# accessibility bus started (asking for its address does), before the game;
-# each may take seconds on a loaded machine.
-gestor() { xprop -root _NET_SUPPORTED 2> /dev/null | grep -q _NET_ACTIVE_WINDOW; }
+# The accessibility bus started (asking for its address does) before the
+# game; it may take seconds on a loaded machine.
 bus() {
     dbus-send --session --print-reply --reply-timeout=1000 --dest=org.a11y.Bus /org/a11y/bus \
         org.a11y.Bus.GetAddress > /dev/null 2>&1
 }
-espera 300 0.1 gestor || { cat "$sesion.d/openbox"; echo "the window manager not managing in 30 s"; exit 1; }
 # Each try waits at most a second for the answer.
 espera 30 1 bus || { echo "no accessibility bus after 30 tries a second apart"; exit 1; }
 # Orca, the desktop's screen reader, writes all it would say into its debug
@@ -50,7 +45,7 @@ status=0
 # took or dropped, and why.
 [ \$status = 0 ] || grep -aE 'Dequeued (window:|object:state-changed:showing.*notification)|obsoleted|Not processing|defunct|active script to|Exception processing' \
     "$sesion.d/orca" | cut -c 1-220 | tail -n 40
-kill \$orca %1 2> /dev/null || true
+kill \$orca 2> /dev/null || true
 exit \$status
 SESION
 # Orca will not start beside another Orca of the same user on the machine,
@@ -60,4 +55,5 @@ SESION
 solo=(unshare --pid --fork --mount-proc)
 [ "$(id -u)" = 0 ] || solo=(unshare --user --map-root-user --pid --fork --mount-proc)
 "${solo[@]}" true 2> /dev/null || { echo "teclado.sh: no process namespace of its own here" >&2; solo=(); }
-bash "$here/xvfb.sh" "${solo[@]}" dbus-run-session -- bash "$sesion"
+# The window manager managing first, so that new windows get the focus.
+bash "$here/xvfb.sh" --gestor "${solo[@]}" dbus-run-session -- bash "$sesion"

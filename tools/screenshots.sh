@@ -8,22 +8,15 @@ cd "$(dirname "$0")/.."
 out=${1:-build/shots}
 scale=${2:-1}
 bash tools/deps.sh shots
-# The session on a display of its own.
-[ -n "${TIRLO_XVFB:-}" ] || exec env TIRLO_XVFB=1 bash tests/xvfb.sh bash tools/screenshots.sh "$out" "$scale"
+# The session on a display of its own, with the window manager managing
+# before the game: a window mapped while it starts up stays unmapped.
+[ -n "${TIRLO_XVFB:-}" ] || exec env TIRLO_XVFB=1 bash tests/xvfb.sh --gestor bash tools/screenshots.sh "$out" "$scale"
 cmake -S . -B build -DCMAKE_BUILD_TYPE=Release > /dev/null
 cmake --build build -j"$(nproc)" --target supertirlo > /dev/null
 mkdir -p "$out"
 
 game=""
 trap '[ -n "$game" ] && kill "$game" 2> /dev/null || true' EXIT
-openbox > /dev/null 2>&1 &
-# The window manager managing (it lists what it supports only once it is)
-# before the game: a window mapped while it starts up stays unmapped.
-for _ in $(seq 100); do
-    xprop -root _NET_SUPPORTED 2> /dev/null | grep -q _NET_ACTIVE_WINDOW && break
-    sleep 0.1
-done
-
 QT_SCALE_FACTOR=$scale ./build/supertirlo &
 game=$!
 
