@@ -57,7 +57,7 @@ void Randomize(float semilla)
 float SegundosDesdeMedianoche()
 {
     const std::time_t ahora = std::time(nullptr);
-    std::tm local{};
-    localtime_r(&ahora, &local);
+    // Called on the one thread, so the standard's shared result will do.
+    const std::tm local = *std::localtime(&ahora);
     return static_cast<float>(local.tm_hour * 3600 + local.tm_min * 60 + local.tm_sec);
 }

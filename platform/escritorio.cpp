@@ -37,10 +37,13 @@ void AvisoDeArranque(QtMsgType tipo, const QMessageLogContext &contexto, const Q
 
 void EligeSistemaDeVentanas()
 {
+#ifndef Q_OS_WIN
     // The X server first, XWayland included: its window manager frames every
     // window as designed, and minimises a dialog with the window it belongs to.
+    // Windows has one window system, which Qt takes by itself.
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "xcb;wayland");
+#endif
     qInstallMessageHandler(AvisoDeArranque);
 }
 

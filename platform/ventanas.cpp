@@ -76,7 +76,12 @@ void CentraVentana(QWidget *w)
 {
     if (w->layout())
         w->adjustSize(); // a laid-out window knows its size only once adjusted
-    w->move(w->screen()->availableGeometry().center() - w->rect().center());
+    // The frame is what is centred (move places it). Windows frames a window
+    // as it is made, so its size is known from then on; an X11 window manager
+    // frames it only once shown, and the margins are still 0.
+    w->winId();
+    const QRect marco(QPoint(), w->size().grownBy(w->windowHandle()->frameMargins()));
+    w->move(w->screen()->availableGeometry().center() - marco.center());
 }
 
 namespace {
