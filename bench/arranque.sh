@@ -6,22 +6,28 @@
 # idle seconds (from one second after the map) are printed with the ratios to
 # the floor. Inside a D-Bus session, as on a desktop, where Qt asks whether
 # assistive technology is running.
-#   bash bench/arranque.sh [RUNS]
+# With WINDOWS-BUILD, the two as built for Windows there, run under Wine (as
+# tools/windows.sh runs them, with its Wine settings).
+#   bash bench/arranque.sh [RUNS [WINDOWS-BUILD]]
 set -euo pipefail
 cd "$(dirname "$0")/.."
 runs=${1:-9}
+windows=${2:-}
 bash tools/deps.sh bench
-[ -n "${DBUS_SESSION_BUS_ADDRESS:-}" ] || exec dbus-run-session -- bash bench/arranque.sh "$runs"
-[ -n "${TIRLO_XVFB:-}" ] || exec env TIRLO_XVFB=1 bash tests/xvfb.sh bash bench/arranque.sh "$runs"
+[ -n "${DBUS_SESSION_BUS_ADDRESS:-}" ] || exec dbus-run-session -- bash bench/arranque.sh "$@"
+[ -n "${TIRLO_XVFB:-}" ] || exec env TIRLO_XVFB=1 bash tests/xvfb.sh bash bench/arranque.sh "$@"
 cmake -S . -B build -DCMAKE_BUILD_TYPE=Release > /dev/null
 cmake --build build -j"$(nproc)" --target supertirlo minimo mapeo > /dev/null
 
 unset QT_QPA_PLATFORM QT_SCALE_FACTOR
+minimo=(./build/bench/minimo)
+supertirlo=(./build/supertirlo)
+[ -z "$windows" ] || { minimo=(wine "$windows/bench/minimo.exe"); supertirlo=(wine "$windows/supertirlo.exe"); }
 
 out=$(mktemp -d)
 for i in $(seq "$runs"); do
-    ./build/bench/mapeo ./build/bench/minimo >> "$out/minimo"
-    ./build/bench/mapeo ./build/supertirlo >> "$out/supertirlo"
+    ./build/bench/mapeo "${minimo[@]}" >> "$out/minimo"
+    ./build/bench/mapeo "${supertirlo[@]}" >> "$out/supertirlo"
     printf '.' >&2
 done
 echo >&2

@@ -148,9 +148,12 @@ QStringList Grafemas(const QString &texto)
 
 int main(int argc, char **argv)
 {
-    // Headless unless told otherwise; test discovery at build time has no display.
+#ifndef Q_OS_WIN
+    // Headless unless told otherwise; test discovery at build time has no
+    // display. Windows always has its own.
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+#endif
     QApplication app(argc, argv);
     ProtegeModalidad();
     IdentificaPrograma();
