@@ -22,6 +22,10 @@ endforeach()
 find_file(QT_CATALOGO_ES qtbase_es.qm PATHS ${QT_HOST_PATH}/share/qt6/translations
     NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH REQUIRED)
 install(FILES ${QT_CATALOGO_ES} DESTINATION translations)
+# Qt's libraries and the runtime come with their symbol tables: shipped
+# without, as the game is (CPack strips only what the project builds).
+install(CODE "file(GLOB_RECURSE dlls \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/*.dll\")
+execute_process(COMMAND ${CMAKE_STRIP} --strip-unneeded \${dlls} COMMAND_ERROR_IS_FATAL ANY)")
 
 set(CPACK_GENERATOR NSIS)
 set(CPACK_PACKAGE_NAME SuperTirlo)
