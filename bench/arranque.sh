@@ -22,7 +22,7 @@ cmake --build build -j"$(nproc)" --target supertirlo minimo mapeo > /dev/null
 unset QT_QPA_PLATFORM QT_SCALE_FACTOR
 minimo=(./build/bench/minimo)
 supertirlo=(./build/supertirlo)
-[ -z "$windows" ] || { minimo=(wine "$windows/bench/minimo.exe"); supertirlo=(wine "$windows/supertirlo.exe"); }
+[ -z "$windows" ] || { minimo=(wine "$windows/minimo.exe"); supertirlo=(wine "$windows/supertirlo.exe"); }
 
 out=$(mktemp -d)
 for i in $(seq "$runs"); do
