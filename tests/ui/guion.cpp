@@ -301,8 +301,8 @@ class Guion {
                 sobre ? Form1().frameGeometry() : Delante()->screen()->availableGeometry();
             const QRect f = Delante()->frameGeometry();
             // Qt places a dialog over its window by guessing the frames from
-            // the side border of the windows shown, and where there is none
-            // (Wine's frames), guesses a Windows 95 one: its place is Qt's guess.
+            // the side border of the windows shown; where there is none
+            // (Wine's frames) it takes a fixed frame: the place is Qt's guess.
             const bool adivinado = sobre && QGuiApplication::platformName() == "windows" &&
                                    Form1().geometry().x() == Form1().x();
             if (adivinado)
