@@ -1,11 +1,8 @@
 #include "idioma.h"
 
-#include "formularios.h"
-
 #include <QCoreApplication>
 #include <QLibraryInfo>
 #include <QLocale>
-#include <QRadioButton>
 #include <QTranslator>
 
 namespace {
@@ -16,12 +13,6 @@ struct Texto {
     const char16_t *ingles;
     const char16_t *espanol;
 };
-
-void Asigna(std::initializer_list<Texto> textos, bool ingles)
-{
-    for (const Texto &t : textos)
-        *t.variable = QString::fromUtf16(ingles ? t.ingles : t.espanol);
-}
 
 // The credit lines of the About box: lead-in, then the value.
 struct Credito {
@@ -53,44 +44,39 @@ QString TextoAcerca(bool ingles)
 
 } // namespace
 
-void CargaIdioma()
+void CargaTextos(bool ingles)
 {
-    ui::VentanaIdioma &seleccion = frmSeleccion();
-    const bool ingles = seleccion.optIngles->isChecked();
-    Asigna({{&strOponentesMenu, u"&Opponents", u"&Oponentes"},
-            {&strOponentes, u"Opponents", u"Oponentes"},
-            {&strNombrePrimero, u"Name to &first player:", u"Nombre del &primer jugador:"},
-            {&strNombreSegundo, u"Name to &second player:", u"Nombre del &segundo jugador:"},
-            {&strNivel, u"Level", u"Nivel"},
-            {&strNuevoJuego, u"&New game", u"&Nuevo juego"},
-            {&strJugadorUno, u"player one", u"Primer jugador"},
-            {&strJugadorDos, u"player two", u"Segundo jugador"}},
-           ingles);
-    seleccion.lblGracias->setText(ingles ? QStringLiteral("Thank you for to play my game")
-                                         : QStringLiteral("Gracias por jugar mi juego"));
-    seleccion.setWindowTitle(ingles ? QStringLiteral("Idiom selection")
-                                    : QStringLiteral("Selección de idioma"));
-    Asigna({{&strAcerca, u"&About...", u"&Acerca..."},
-            {&strSalir, u"&Exit", u"&Salir"},
-            {&strSeleccionIdioma, u"&Idiom Selection", u"Se&lección de idioma"},
-            {&strTitulo, u"The tic tac toe", u"El famoso juego del tirlo"},
-            {&strOpciones, u"&Options", u"&Opciones"}},
-           ingles);
-    strAcercaTexto = TextoAcerca(ingles);
-    Asigna({{&strAceptar, u"&Ok", u"&Aceptar"},
-            {&strCancelar, u"&Cancel", u"&Cancelar"},
-            {&strAcercaTitulo, u"About...", u"Acerca..."},
-            {&strFacil, u"Easy", u"Fácil"},
-            {&strMedio, u"Medium", u"Medio"},
-            {&strNoGanas, u"You can not win", u"A que no ganas"},
-            {&strNivelMenu, u"&Level", u"&Nivel"},
-            {&strGana, u"Win ", u"¡Gana el jugador "},
-            {&strFelicidades, u"Congratulations, you win!", u"¡Felicidades tu ganas!"},
-            {&strEmpate, u"Draw game!", u"¡Juego empatado!"},
-            {&strTurnoDe, u"", u"Turno de "},
-            {&strPierdes, u"You lose", u"Lo siento tu pierdes"},
-            {&strTuTurno, u"Your turn", u"Tu turno"}},
-           ingles);
+    static const Texto kTextos[] = {
+        {&strOponentesMenu, u"&Opponents", u"&Oponentes"},
+        {&strOponentes, u"Opponents", u"Oponentes"},
+        {&strNombrePrimero, u"Name to &first player:", u"Nombre del &primer jugador:"},
+        {&strNombreSegundo, u"Name to &second player:", u"Nombre del &segundo jugador:"},
+        {&strNivel, u"Level", u"Nivel"},
+        {&strNuevoJuego, u"&New game", u"&Nuevo juego"},
+        {&strJugadorUno, u"player one", u"Primer jugador"},
+        {&strJugadorDos, u"player two", u"Segundo jugador"},
+        {&strAcerca, u"&About...", u"&Acerca..."},
+        {&strSalir, u"&Exit", u"&Salir"},
+        {&strSeleccionIdioma, u"&Idiom Selection", u"Se&lección de idioma"},
+        {&strTitulo, u"The tic tac toe", u"El famoso juego del tirlo"},
+        {&strOpciones, u"&Options", u"&Opciones"},
+        {&strAceptar, u"&Ok", u"&Aceptar"},
+        {&strCancelar, u"&Cancel", u"&Cancelar"},
+        {&strAcercaTitulo, u"About...", u"Acerca..."},
+        {&strFacil, u"Easy", u"Fácil"},
+        {&strMedio, u"Medium", u"Medio"},
+        {&strNoGanas, u"You can not win", u"A que no ganas"},
+        {&strNivelMenu, u"&Level", u"&Nivel"},
+        {&strGana, u"Win ", u"¡Gana el jugador "},
+        {&strFelicidades, u"Congratulations, you win!", u"¡Felicidades tu ganas!"},
+        {&strEmpate, u"Draw game!", u"¡Juego empatado!"},
+        {&strTurnoDe, u"", u"Turno de "},
+        {&strPierdes, u"You lose", u"Lo siento tu pierdes"},
+        {&strTuTurno, u"Your turn", u"Tu turno"},
+    };
+    for (const Texto &t : kTextos)
+        *t.variable = QString::fromUtf16(ingles ? t.ingles : t.espanol);
+    strAcercaTexto = TextoAcerca(ingles); // built on the new title
 }
 
 void TextosQtEnEspanol(bool espanol)

@@ -31,10 +31,8 @@ inline QString strPierdes;
 inline QString strTuTurno;
 inline QString strNivel;
 
-// Overwrites all the texts above with the language of the language window's
-// selected option, English or Spanish, and sets that window's own label and
-// title on the way.
-void CargaIdioma();
+// Overwrites all the texts above with their English or their Spanish.
+void CargaTextos(bool ingles);
 
 // Qt's own texts (message-box buttons, the text boxes' context menu) in
 // Spanish, or back in English.

@@ -57,6 +57,15 @@ void VentanaIdioma::optIngles_Click()
     EligeIdioma(QStringLiteral("&Ok"), QStringLiteral("&Exit"), kIngles);
 }
 
+void VentanaIdioma::CargaIdioma()
+{
+    const bool ingles = optIngles->isChecked();
+    lblGracias->setText(ingles ? QStringLiteral("Thank you for to play my game")
+                               : QStringLiteral("Gracias por jugar mi juego"));
+    setWindowTitle(ingles ? QStringLiteral("Idiom selection") : QStringLiteral("Selección de idioma"));
+    CargaTextos(ingles);
+}
+
 // The steps both options take, with their own button captions and language.
 void VentanaIdioma::EligeIdioma(const QString &aceptar, const QString &salir, Integer idioma)
 {

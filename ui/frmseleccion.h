@@ -29,6 +29,9 @@ class VentanaIdioma : public Dialogo {
     QPushButton *cmdSalir;
 
   private:
+    // The texts of the language of optIngles (Spanish unless it is
+    // selected), this window's own label and title with them.
+    void CargaIdioma();
     void EligeIdioma(const QString &aceptar, const QString &salir, Integer idioma);
     Avisador *avisos_ = new Avisador(this);
 };
