@@ -17,10 +17,6 @@ QString Trim(const QString &texto);
 // nothing.
 QString Aislado(const QString &nombre);
 
-// The text as assistive technology reads it: without the marks that isolate
-// a name, which a braille display would show as escapes.
-QString SinAislantes(QString texto);
-
 // What a name box takes: its first line, without control characters or
 // direction isolates; an edit that would leave more than kLargoNombre
 // characters (an accent stays with its letter, an emoji sequence counts as

@@ -43,10 +43,8 @@ QPushButton *CreaBoton(QWidget *padre, const QString &texto, const QRect &geomet
     return b;
 }
 
-Dialogo::Dialogo(const QString &titulo, int anchoTw, int altoTw)
+Dialogo::Dialogo(const QString &titulo, int anchoTw, int altoTw) : Formulario(Qt::Dialog)
 {
-    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                   Qt::WindowCloseButtonHint);
     setWindowTitle(titulo);
     resize(Tw(anchoTw), Tw(altoTw));
     connect(this, &QDialog::finished, this, [this] { Descargate(); });

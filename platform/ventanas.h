@@ -34,16 +34,22 @@ QFont FuentePrograma(double puntos = 8.25, bool negrita = false);
 QPushButton *CreaBoton(QWidget *padre, const QString &texto, const QRect &geometria,
                        const std::function<void()> &Click);
 
-// Centres a top-level window on its screen. Only windows shown before the
-// main window use it: Qt centres a modal dialog over the active window.
+// Centres a top-level window on its screen: a window shown modeless, as Qt
+// centres a modal dialog over the window it opens on.
 void CentraVentana(QWidget *w);
 
 // What every window of the program shares, on top of its Qt window class:
-// the constructor builds the design, Form_Load runs right after, and once
-// unloaded the window is destroyed and never used again.
+// the program's font, a title bar with a close button and the buttons of its
+// kind (`tipo`); the constructor builds the design, Form_Load runs right
+// after, and once unloaded the window is destroyed and never used again.
 template <class VentanaQt> class Formulario : public VentanaQt {
   public:
-    Formulario() { this->setFont(FuentePrograma()); }
+    explicit Formulario(Qt::WindowFlags tipo)
+    {
+        this->setWindowFlags(tipo | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                             Qt::WindowCloseButtonHint);
+        this->setFont(FuentePrograma());
+    }
     virtual void Form_Load() {}
     bool Descargado() const { return descargado_; }
     // Modeless: visible at once, centred.

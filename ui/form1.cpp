@@ -32,11 +32,10 @@ class Superficie : public QWidget {
     }
 };
 
-// The player's name as a message shows it.
-QString Nombre(const std::string &jugador, bool recortado = false)
+// The name of the player whose turn it is.
+QString Jugador()
 {
-    const QString nombre = QString::fromStdString(jugador);
-    return Aislado(recortado ? Trim(nombre) : nombre);
+    return QString::fromStdString(JugadorDelTurno());
 }
 
 } // namespace
@@ -44,11 +43,9 @@ QString Nombre(const std::string &jugador, bool recortado = false)
 namespace ui {
 
 VentanaPrincipal::VentanaPrincipal()
+    : Formulario(Qt::Window | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint)
 {
     setWindowTitle(QStringLiteral("Super Tirlo"));
-    setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                   Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
-                   Qt::WindowCloseButtonHint);
 
     auto *superficie = new Superficie(this);
     setCentralWidget(superficie);
@@ -129,36 +126,45 @@ void VentanaPrincipal::cmdtir_Click(Integer Index)
         boton->setText(QStringLiteral("0"));
         Tablero(c, r) = kCero;
     }
-    if (Modo == kContraPC) {
-        // The computer replies while the game goes on.
-        if (!FinSiTermino(strFelicidades) && MovimientoPC(Tablero)) {
-            PintaComputadora();
-            if (!FinSiTermino(strPierdes))
-                Panel->Caption(strTuTurno);
-        }
-    } else if (!FinSiTermino(strGana + Nombre(JugadorDelTurno(), true) + QStringLiteral("!"))) {
+    if (Modo == kContraPC)
+        FinSiTermino(strFelicidades);
+    else
+        FinSiTermino(strGana, Trim(Jugador()), QStringLiteral("!"));
+    Integer respuesta = -1; // the square the computer replies on
+    if (Modo == kDosJugadores && Jugando) {
         Turno = Turno == kTurnoJugador1 ? kTurnoJugador2 : kTurnoJugador1;
-        AnunciaTurno();
+        Anuncia(strTurnoDe, Jugador());
     }
-    Informa(Index);
+    if (Modo == kContraPC && Jugando) {
+        // No reply only on a full board, which a running game never has:
+        // then the click ends with the player's move.
+        if (MovimientoPC(Tablero)) {
+            respuesta = PintaComputadora();
+            if (!FinSiTermino(strPierdes))
+                Anuncia(strTuTurno);
+        }
+    }
+    Informa({Index, respuesta});
 }
 
-bool VentanaPrincipal::FinSiTermino(const QString &mensajeLinea)
+void VentanaPrincipal::Anuncia(const QString &texto, const QString &nombre, const QString &cierre)
+{
+    Panel->Caption(texto + Aislado(nombre) + cierre);
+    Panel->setAccessibleName(texto + nombre + cierre);
+}
+
+bool VentanaPrincipal::FinSiTermino(const QString &texto, const QString &nombre,
+                                    const QString &cierre)
 {
     if (HayGanador(Tablero))
-        Panel->Caption(mensajeLinea);
+        Anuncia(texto, nombre, cierre);
     else if (TableroLleno(Tablero))
-        Panel->Caption(strEmpate);
+        Anuncia(strEmpate);
     else
         return false;
     cmdnuevo->setEnabled(true);
     Jugando = false;
     return true;
-}
-
-void VentanaPrincipal::AnunciaTurno()
-{
-    Panel->Caption(strTurnoDe + Nombre(JugadorDelTurno()));
 }
 
 void VentanaPrincipal::cmdnuevo_Click()
@@ -167,64 +173,59 @@ void VentanaPrincipal::cmdnuevo_Click()
     LimpiaTablero(Tablero);
     for (QPushButton *b : cmdtir)
         b->setText(QString());
+    Integer apertura = -1; // the square the computer opens on
     if (Modo != kContraPC) {
         Turno = static_cast<Integer>(AlAzar(2) + 1);
         Jugando = true;
-        AnunciaTurno();
+        Anuncia(strTurnoDe, Jugador());
     } else {
         if (AlAzar(2) == 0) {
             MovimientoPC(Tablero);
-            PintaComputadora();
+            apertura = PintaComputadora();
         }
         Jugando = true;
-        Panel->Caption(strTuTurno);
+        Anuncia(strTuTurno);
     }
-    Informa(-1);
+    Informa({apertura});
 }
 
-// Shows "0" on every square the computer holds that still has no caption.
-void VentanaPrincipal::PintaComputadora()
+// Shows "0" on every square the computer holds that still has no caption:
+// the last such square, or -1 if none.
+Integer VentanaPrincipal::PintaComputadora()
 {
-    for (int k = 0; k < 9; ++k) {
-        QPushButton *b = cmdtir[k];
-        if (Tablero(k % 3, k / 3) == kCero && b->text().isEmpty())
-            b->setText(QStringLiteral("0"));
-    }
-}
-
-QList<Integer> VentanaPrincipal::ActualizaAccesibles()
-{
-    QList<Integer> cambiadas;
+    Integer pintada = -1;
     for (Integer k = 0; k < 9; ++k) {
-        // Only what changed: a screen reader hears of every change.
         QPushButton *b = cmdtir[k];
-        if (const QString nombre = NombreCasilla(k, b->text()); b->accessibleName() != nombre) {
-            b->setAccessibleName(nombre);
-            cambiadas << k;
+        if (Tablero(k % 3, k / 3) == kCero && b->text().isEmpty()) {
+            b->setText(QStringLiteral("0"));
+            pintada = k;
         }
+    }
+    return pintada;
+}
+
+void VentanaPrincipal::ActualizaAccesibles()
+{
+    for (Integer k = 0; k < 9; ++k) {
+        QPushButton *b = cmdtir[k];
+        // Only what changed: a screen reader hears of every change.
+        if (const QString nombre = NombreCasilla(k, b->text()); b->accessibleName() != nombre)
+            b->setAccessibleName(nombre);
         // An invitation to play only where a press plays.
         const QString descripcion =
             Jugando && b->text().isEmpty() ? DescripcionCasilla() : QString();
         if (b->accessibleDescription() != descripcion)
             b->setAccessibleDescription(descripcion);
     }
-    return cambiadas;
 }
 
-void VentanaPrincipal::Informa(Integer jugada)
+void VentanaPrincipal::Informa(std::initializer_list<Integer> jugadas)
 {
-    const QList<Integer> cambiadas = ActualizaAccesibles();
+    ActualizaAccesibles();
     QStringList partes;
-    for (Integer k = 0; k < 9; ++k) {
-        // After a click, what it changed; in a new game, all it holds.
-        if (cmdtir[k]->text().isEmpty() || (jugada >= 0 && !cambiadas.contains(k)))
-            continue;
-        if (k == jugada)
-            partes.prepend(cmdtir[k]->accessibleName());
-        else
+    for (Integer k : jugadas)
+        if (k >= 0)
             partes << cmdtir[k]->accessibleName();
-    }
-    Panel->setAccessibleName(SinAislantes(Panel->text()));
     partes << Panel->accessibleName();
     partes.removeAll(QString()); // an empty message, as two nameless players get, says nothing
     avisos_->Avisa(partes.join(QStringLiteral(". ")));

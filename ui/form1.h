@@ -44,8 +44,8 @@ class VentanaPrincipal : public Formulario<QMainWindow> {
     QAction *mnuSalir;
 
     // The squares' accessible names and descriptions, from their captions,
-    // in the language of Idioma: the squares whose name changed.
-    QList<Integer> ActualizaAccesibles();
+    // in the language of Idioma.
+    void ActualizaAccesibles();
 
   protected:
     // Form_Unload. The main window is the last one open, and the program
@@ -53,14 +53,17 @@ class VentanaPrincipal : public Formulario<QMainWindow> {
     void closeEvent(QCloseEvent *e) override;
 
   private:
-    void PintaComputadora();
-    // A line or a full board ends the game with its message: true if it ended.
-    bool FinSiTermino(const QString &mensajeLinea);
-    void AnunciaTurno();
+    // A message on the panel: its text, then a player's name kept apart
+    // from it (whatever its script or direction marks), then its close.
+    void Anuncia(const QString &texto, const QString &nombre = {}, const QString &cierre = {});
+    Integer PintaComputadora();
+    // A line or a full board ends the game with the message of the line
+    // (text, name, close) or the draw's: true if it ended.
+    bool FinSiTermino(const QString &texto, const QString &nombre = {},
+                      const QString &cierre = {});
     // What the board and the panel now say, told to a screen reader once:
-    // the square played (`jugada`, -1 for a new game), every other square
-    // newly marked, and the panel's message, as each reads.
-    void Informa(Integer jugada);
+    // the squares just played (-1 for none), then the panel's message.
+    void Informa(std::initializer_list<Integer> jugadas);
 
     Avisador *avisos_ = new Avisador(this);
 };
