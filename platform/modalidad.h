@@ -6,7 +6,6 @@
 // so every object's actions go through one guard here, and a name box
 // refuses the edits, carets and selections that reach it behind one.
 
-class QDialog;
 class QObject;
 
 // Once, after the application object and before any window: the program's
@@ -14,11 +13,6 @@ class QObject;
 // technology acts only where the player can.
 void ProtegeModalidad();
 
-// Shows the window modal and returns once it has been closed. Until then
-// only the window and what it opens take any action; in the moment between
-// its hiding and the return, nothing does.
-int EjecutaModal(QDialog *ventana);
-
-// Whether an action on the object may run now: it belongs to the topmost
-// modal window, on screen, or, with none open, to a window on screen.
+// Whether an action on the object may run now: it belongs to the modal
+// window in front, or, with none open, to a window on screen.
 bool Alcanzable(const QObject *objeto);

@@ -67,7 +67,7 @@ void Dialogo::MuestraModal()
             winId(); // its native window, which carries the link
             windowHandle()->setTransientParent(w->windowHandle());
         }
-    EjecutaModal(this);
+    exec();
 }
 
 void CentraVentana(QWidget *w)
@@ -197,5 +197,5 @@ void MsgBoxInformacion(QWidget *padre, const QString &titulo, const QString &tex
     // a screen reader then reads it only if the player moves there: the
     // text is read as the box's own, with its title, when it opens.
     caja.setTextInteractionFlags(Qt::NoTextInteraction);
-    EjecutaModal(&caja);
+    caja.exec();
 }
