@@ -57,11 +57,6 @@ QString Aislado(const QString &nombre)
     return nombre.isEmpty() ? nombre : QChar(0x2068) + nombre + QChar(0x2069);
 }
 
-QString SinAislantes(QString texto)
-{
-    return texto.removeIf(Aislante);
-}
-
 QValidator::State ValidadorNombre::validate(QString &texto, int &cursor) const
 {
     const QString linea = UnaLinea(texto);
