@@ -6,21 +6,11 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QDialog>
 #include <QPointer>
 #include <QTimer>
 #include <QWidget>
 
 namespace {
-
-// The windows shown modal, the last on top; each stays until its show returns.
-QList<QPointer<QDialog>> &Modales()
-{
-    static QList<QPointer<QDialog>> pila;
-    return pila;
-}
-
-QAccessibleInterface *Envuelve(QAccessibleInterface *interno);
 
 // An object's accessibility interface as Qt makes it, behind the guard: what
 // assistive technology reads goes through unchanged; what it does happens
@@ -28,28 +18,20 @@ QAccessibleInterface *Envuelve(QAccessibleInterface *interno);
 class Vigilado : public QAccessibleInterface, public QAccessibleActionInterface {
   public:
     explicit Vigilado(QAccessibleInterface *interno) : i_(interno), objeto_(interno->object()) {}
-    // Qt's cache deletes Qt's interface with its object, as it deletes this
-    // one; at the end of the program, in any order.
-    QAccessibleInterface *Interno() const { return i_; }
-
     bool isValid() const override { return i_->isValid(); }
     QObject *object() const override { return objeto_; }
     QWindow *window() const override { return i_->window(); }
+    // Qt answers these from its cache, where each object's guarded
+    // interface is the one found.
     QList<QPair<QAccessibleInterface *, QAccessible::Relation>>
     relations(QAccessible::Relation r) const override
     {
-        auto lista = i_->relations(r);
-        for (auto &par : lista)
-            par.first = Envuelve(par.first);
-        return lista;
+        return i_->relations(r);
     }
-    QAccessibleInterface *focusChild() const override { return Envuelve(i_->focusChild()); }
-    QAccessibleInterface *childAt(int x, int y) const override
-    {
-        return Envuelve(i_->childAt(x, y));
-    }
-    QAccessibleInterface *parent() const override { return Envuelve(i_->parent()); }
-    QAccessibleInterface *child(int n) const override { return Envuelve(i_->child(n)); }
+    QAccessibleInterface *focusChild() const override { return i_->focusChild(); }
+    QAccessibleInterface *childAt(int x, int y) const override { return i_->childAt(x, y); }
+    QAccessibleInterface *parent() const override { return i_->parent(); }
+    QAccessibleInterface *child(int n) const override { return i_->child(n); }
     int childCount() const override { return i_->childCount(); }
     int indexOfChild(const QAccessibleInterface *hijo) const override
     {
@@ -105,19 +87,18 @@ class Vigilado : public QAccessibleInterface, public QAccessibleActionInterface 
     const QPointer<QObject> objeto_;
 };
 
-// The guarded interface for one Qt hands out, registered once: Qt makes some
-// (a menu's items) without asking the factories.
-QAccessibleInterface *Envuelve(QAccessibleInterface *interno)
+// Qt makes a menu's items, and the item in the bar that opens a menu,
+// without asking the factories: each goes behind the guard as the menu's
+// interface is made, before Qt hands it out. The cache answers with the
+// last interface registered for an object.
+void GuardaElementos(QAccessibleInterface *menu)
 {
-    if (!interno || !interno->object() || dynamic_cast<Vigilado *>(interno))
-        return interno;
-    // The cache answers with the last interface registered for the object.
-    auto *hay = dynamic_cast<Vigilado *>(QAccessible::queryAccessibleInterface(interno->object()));
-    if (hay && hay->Interno() == interno)
-        return hay;
-    auto *v = new Vigilado(interno);
-    QAccessible::registerAccessibleInterface(v);
-    return v;
+    QList<QAccessibleInterface *> elementos{menu->parent()};
+    for (int n = 0; n < menu->childCount(); ++n)
+        elementos << menu->child(n);
+    for (QAccessibleInterface *e : elementos)
+        if (e && e->object() && !dynamic_cast<Vigilado *>(e))
+            QAccessible::registerAccessibleInterface(new Vigilado(e));
 }
 
 // Consulted first for every object: Qt's own interface, made by the other
@@ -130,7 +111,11 @@ QAccessibleInterface *Fabrica(const QString &clase, QObject *objeto)
     creando = true;
     QAccessibleInterface *interno = QAccessible::queryAccessibleInterface(objeto);
     creando = false;
-    return interno ? new Vigilado(interno) : nullptr;
+    if (!interno)
+        return nullptr;
+    if (interno->role() == QAccessible::PopupMenu || interno->role() == QAccessible::MenuBar)
+        GuardaElementos(interno);
+    return new Vigilado(interno);
 }
 
 // While a window is shown modal, one behind it is not closed, whatever asks.
@@ -141,8 +126,8 @@ class GuardaCierres : public QObject {
   protected:
     bool eventFilter(QObject *o, QEvent *e) override
     {
-        if (e->type() != QEvent::Close || !o->isWidgetType() || Modales().isEmpty() ||
-            Alcanzable(o))
+        if (e->type() != QEvent::Close || !o->isWidgetType() ||
+            !QApplication::activeModalWidget() || Alcanzable(o))
             return false;
         e->ignore();
         return true;
@@ -160,25 +145,15 @@ void ProtegeModalidad()
     QAccessible::installFactory(Fabrica);
 }
 
-int EjecutaModal(QDialog *ventana)
-{
-    Modales().append(ventana);
-    const int resultado = ventana->exec();
-    Modales().removeLast(); // shows return in the reverse order of their start
-    return resultado;
-}
-
 bool Alcanzable(const QObject *objeto)
 {
-    // The topmost modal window holds the top until its show returns, also
-    // once hidden or deleted, when nothing acts.
-    const QList<QPointer<QDialog>> &pila = Modales();
-    const QObject *arriba = nullptr;
+    const QWidget *modal = QApplication::activeModalWidget();
+    const QObject *arriba = objeto;
     for (const QObject *o = objeto; o; o = o->parent()) {
-        if (!pila.isEmpty() && o == pila.last().data())
-            return pila.last()->isVisible();
+        if (o == modal)
+            return true;
         arriba = o;
     }
     auto *ventana = qobject_cast<const QWidget *>(arriba);
-    return pila.isEmpty() && ventana && ventana->isVisible();
+    return !modal && ventana && ventana->isVisible();
 }
