@@ -5,7 +5,6 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
-#include <QCloseEvent>
 #include <QPointer>
 #include <QTimer>
 #include <QWidget>
@@ -118,27 +117,10 @@ QAccessibleInterface *Fabrica(const QString &clase, QObject *objeto)
     return new Vigilado(interno);
 }
 
-// While a window is shown modal, one behind it is not closed, whatever asks.
-class GuardaCierres : public QObject {
-  public:
-    using QObject::QObject;
-
-  protected:
-    bool eventFilter(QObject *o, QEvent *e) override
-    {
-        if (e->type() != QEvent::Close || !o->isWidgetType() ||
-            !QApplication::activeModalWidget() || Alcanzable(o))
-            return false;
-        e->ignore();
-        return true;
-    }
-};
-
 } // namespace
 
 void ProtegeModalidad()
 {
-    qApp->installEventFilter(new GuardaCierres(qApp));
     // The last installed is asked first: the guard, in front of the
     // notifications' role and of Qt's own interfaces.
     QAccessible::installFactory(RolDeAviso);

@@ -2,11 +2,20 @@
 // action on the window in front or a check of what it shows.
 #include "apoyo_ui.h"
 
+#include <qpa/qwindowsysteminterface.h>
+
 #include <cmath>
 #include <cstdio>
 #include <memory>
 
 namespace {
+
+// Closes the window as the window manager asks, through the window system.
+void Cierra(QWidget *ventana)
+{
+    QWindowSystemInterface::handleCloseEvent<QWindowSystemInterface::SynchronousDelivery>(
+        ventana->windowHandle());
+}
 
 QString Nombre(QObject *o)
 {
@@ -214,7 +223,7 @@ class Guion {
                                                      : &Form1();
             const int i = p.value(1).toInt();
             if (p.value(0) == "close")
-                return v->close(), void();
+                return Cierra(v);
             if (p.value(0) == "select")
                 return Accesible(v->findChildren<QLineEdit *>().at(i))
                     ->textInterface()
@@ -224,7 +233,7 @@ class Guion {
                                          : v->findChildren<QPushButton *>().at(i));
             QCoreApplication::processEvents(); // it lands once the loop is back
         } else if (orden == "close") {
-            Delante()->close();
+            Cierra(Delante());
         } else if (orden == "type") {
             for (const QString &c : Grafemas(texto)) { // a key per character, whatever its script
                 QKeyEvent tecla(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, c);
