@@ -5,10 +5,68 @@
 # itself on Exit; its windows name the desktop entry on X11 and Wayland.
 #   instalacion.sh BUILD-DIR
 set -euo pipefail
+here=$(cd "$(dirname "$0")" && pwd)
+id=org.supertirlo.SuperTirlo
+. "$here/x.sh"
+
+# On its own X display: the language window comes up, its class the desktop
+# entry's StartupWMClass; Enter opens the main window, and the level dialog
+# opens transient for it; Exit ends the program with status 0.
+en_x() {
+    local binary=$1 scratch=$2 game w main nivel
+    QT_QPA_PLATFORM=xcb "$binary" &
+    game=$!
+    w=$(ventana idioma)
+    [ "$(xprop -id "$w" WM_CLASS)" = 'WM_CLASS(STRING) = "supertirlo", "supertirlo"' ]
+    xdotool windowfocus --sync "$w" key Return
+    main=$(ventana 'Nivel 3')
+    xdotool windowfocus --sync "$main" key alt+o n
+    nivel=$(ventana '^Nivel$')
+    xprop -id "$nivel" WM_TRANSIENT_FOR | grep -q "# $(printf '0x%x' "$main")\$"
+    xdotool windowfocus --sync "$nivel" key Escape
+    xdotool windowfocus --sync "$main" key alt+o s
+    termina $game 5 || { echo 'still running 5 s after Exit'; kill $game; exit 1; }
+    wait $game
+    bash "$here/weston.sh" bash "$here/instalacion.sh" --weston "$binary" "$scratch"
+}
+
+# Beside a Wayland compositor, the game opens on the X display; where the X
+# server refuses it, on Wayland; told to use Wayland, it does, and names its
+# entry; told to use X where X refuses, it says so.
+en_weston() {
+    local binary=$1 scratch=$2 game status=0
+    # The game, in this environment, on Wayland: its first window has its
+    # title and app id.
+    wayland() {
+        env "$@" WAYLAND_DEBUG=1 "$binary" 2> "$scratch/wayland.log" &
+        game=$!
+        espera 100 0.1 grep -q set_app_id "$scratch/wayland.log" || true
+        kill $game
+        grep -q set_app_id "$scratch/wayland.log" ||
+            { echo "no window on Wayland in 10 s ($*):"; cat "$scratch/wayland.log"; exit 1; }
+        grep -q 'set_title("Selección de idioma")' "$scratch/wayland.log"
+        grep -q "set_app_id(\"$id\")" "$scratch/wayland.log"
+    }
+    env -u QT_QPA_PLATFORM XDG_SESSION_TYPE=wayland "$binary" &
+    game=$!
+    ventana idioma > /dev/null || { echo "the game did not open on the X display"; exit 1; }
+    kill $game
+    wayland -u QT_QPA_PLATFORM XAUTHORITY=/nonexistent
+    wayland QT_QPA_PLATFORM=wayland
+    XAUTHORITY=/nonexistent QT_QPA_PLATFORM=xcb timeout 10 "$binary" 2> "$scratch/x.log" || status=$?
+    [ $status = 1 ]
+    # The X library prints the server's own reason before the game's line.
+    tail -n 1 "$scratch/x.log" | grep -q "^supertirlo: no display to open a window on (xcb): ."
+    [ "$(grep -c ^supertirlo "$scratch/x.log")" = 1 ]
+}
+
+case "${1:-}" in
+    --x | --weston) fase=en_${1#--}; shift; $fase "$@"; exit ;;
+esac
+
 build=$(cd "$1" && pwd)
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
-id=org.supertirlo.SuperTirlo
 
 cmake --install "$build" --prefix "$scratch/prefix" > /dev/null
 share=$scratch/prefix/share
@@ -56,59 +114,5 @@ env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM XDG_RUNTIME_DIR="$scratch" 
 grep -q '^supertirlo: no display to open a window on (xcb;wayland): .' "$scratch/err"
 cat "$scratch/err"
 
-# Started on its own display: the language window comes up, its class the
-# desktop entry's StartupWMClass; Enter opens the main window, and the level dialog opens
-# transient for it; Exit ends the program with status 0.
-cat > "$scratch/sesion.sh" <<SESION
-set -eu
-ventana() { # the id of the window with this title, once it is up
-    for _ in \$(seq 100); do
-        id=\$(xdotool search --onlyvisible --name "\$1" 2> /dev/null | head -n 1)
-        [ -n "\$id" ] && echo \$id && return
-        sleep 0.1
-    done
-    echo "no window '\$1'" >&2; return 1
-}
-QT_QPA_PLATFORM=xcb "$binary" &
-game=\$!
-w=\$(ventana idioma)
-[ "\$(xprop -id \$w WM_CLASS)" = 'WM_CLASS(STRING) = "supertirlo", "supertirlo"' ]
-xdotool windowfocus --sync \$w key Return
-main=\$(ventana 'Nivel 3')
-xdotool windowfocus --sync \$main key alt+o n
-nivel=\$(ventana '^Nivel\$')
-xprop -id \$nivel WM_TRANSIENT_FOR | grep -q "# \$(printf '0x%x' \$main)\$"
-xdotool windowfocus --sync \$nivel key Escape
-xdotool windowfocus --sync \$main key alt+o s
-for _ in \$(seq 50); do kill -0 \$game 2> /dev/null || break; sleep 0.1; done
-if kill -0 \$game 2> /dev/null; then echo 'still running after Exit'; kill \$game; exit 1; fi
-wait \$game
-
-# Beside a Wayland compositor, the game opens on the X display; where the X
-# server refuses it, on Wayland; told to use Wayland, it does, and names its
-# entry; told to use X where X refuses, it says so.
-bash "$(dirname "$0")/weston.sh" bash -ec '
-    wayland() { # the game, in this environment, on Wayland: its first window has its title and app id
-        env "\$@" WAYLAND_DEBUG=1 "$binary" 2> "$scratch/wayland.log" & game=\$!
-        for _ in \$(seq 100); do grep -q set_app_id "$scratch/wayland.log" && break; sleep 0.1; done
-        kill \$game
-        grep -q set_app_id "$scratch/wayland.log" ||
-            { echo "no window on Wayland in 10 s (\$*):"; cat "$scratch/wayland.log"; exit 1; }
-        grep -q "set_title(\"Selección de idioma\")" "$scratch/wayland.log"
-        grep -q "set_app_id(\"$id\")" "$scratch/wayland.log"
-    }
-    env -u QT_QPA_PLATFORM XDG_SESSION_TYPE=wayland "$binary" & game=\$!
-    timeout 10 xdotool search --sync --onlyvisible --name idioma > /dev/null ||
-        { echo "the game did not open on the X display"; exit 1; }
-    kill \$game
-    wayland -u QT_QPA_PLATFORM XAUTHORITY=/nonexistent
-    wayland QT_QPA_PLATFORM=wayland
-    status=0
-    XAUTHORITY=/nonexistent QT_QPA_PLATFORM=xcb timeout 10 "$binary" 2> "$scratch/x.log" || status=\$?
-    [ \$status = 1 ]
-    # The X library prints the server'"'"'s own reason before the game'"'"'s line.
-    tail -n 1 "$scratch/x.log" | grep -q "^supertirlo: no display to open a window on (xcb): ."
-    [ "\$(grep -c ^supertirlo "$scratch/x.log")" = 1 ]'
-SESION
-bash "$(dirname "$0")/xvfb.sh" bash "$scratch/sesion.sh"
+bash "$here/xvfb.sh" bash "$here/instalacion.sh" --x "$binary" "$scratch"
 echo "installed tree, package and packaged binary: fine"

@@ -13,6 +13,7 @@ export WINEPREFIX WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml="
 unset WINEPATH # the game finds what it loads in its own folder, or not at all
 trap 'wineserver -k 2> /dev/null || true; rm -rf "$WINEPREFIX"' EXIT
 fail() { echo "instalador.sh: $*" >&2; exit 1; }
+. "$(dirname "$0")/x.sh"
 wineboot -i > /dev/null 2>&1
 wineserver -w
 
@@ -32,25 +33,17 @@ for valor in 'DisplayName +REG_SZ +Super Tirlo$' 'DisplayVersion +REG_SZ +1\.0\.
     grep -Eq "$valor" <<< "$registro" || fail "the uninstall key lacks /$valor/: $registro"
 done
 
-# Waits at most SECONDS for the window titled TITLE and gives it the keys.
-enfoca() {
-    local id
-    id=$(timeout "$2" xdotool search --sync --onlyvisible --name "$1" | head -n 1) ||
-        fail "no window /$1/ in $2 s"
-    timeout 10 xdotool windowactivate --sync "$id" || fail "window /$1/ not given the keys in 10 s"
-}
-
 # Plays a start of the installed game: LANGUAGE-KEYS choose on the language
 # window, the main window must be TITLE, END-KEYS must end the game.
 juega() {
     local idioma=$1 titulo=$2 fin=$3 pid
     WINEDEBUG=+loaddll wine "$dir/supertirlo.exe" 2> "$WINEPREFIX/cargas" &
     pid=$!
-    enfoca '^Selección de idioma$' 60
+    enfoca '^Selección de idioma$' 60 > /dev/null || exit 1
     xdotool key --delay 200 $idioma
-    enfoca "^$titulo\$" 20
+    enfoca "^$titulo\$" 20 > /dev/null || exit 1
     xdotool key --delay 200 $fin
-    timeout 20 tail --pid=$pid -f /dev/null || fail "the game still running 20 s after $fin"
+    termina $pid 20 || fail "the game still running 20 s after $fin"
     wait $pid || fail "the game ended with status $? after $fin"
 }
 juega alt+a 'El famoso juego del tirlo \(Nivel 3\)' alt+F4
@@ -65,7 +58,7 @@ instaladas=$(find "$dir" -iname '*.dll' -printf '%f\n' | sort -fu)
 
 # The uninstaller runs from a copy of itself: done when the folder is gone.
 wine "$dir/Uninstall.exe" /S
-for _ in $(seq 300); do [ -e "$dir" ] || break; sleep 0.1; done
+espera 300 0.1 test ! -e "$dir" || true # said below
 wineserver -w
 [ ! -e "$dir" ] || fail "still installed 30 s after the uninstaller: $(find "$dir")"
 [ ! -e "$menu" ] || fail "the Start-menu entry is left: $(find "$menu")"

@@ -5,28 +5,32 @@
 #   teclado.sh PROGRAM
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
-sesion=$(mktemp)
-mkdir "$sesion.d"
-trap 'rm -rf "$sesion" "$sesion.d"' EXIT
-cat > "$sesion" <<SESION
-set -eu
+if [ "${2:-}" != --sesion ]; then
+    # Orca will not start beside another Orca of the same user on the machine,
+    # which it finds by process name: where it can, the session has a process
+    # namespace of its own, so that two sessions run at once, and an Orca that
+    # outlives its session goes with the namespace.
+    solo=(unshare --pid --fork --mount-proc)
+    [ "$(id -u)" = 0 ] || solo=(unshare --user --map-root-user --pid --fork --mount-proc)
+    "${solo[@]}" true 2> /dev/null || { echo "teclado.sh: no process namespace of its own here" >&2; solo=(); }
+    # The window manager managing first, so that new windows get the focus.
+    exec bash "$here/xvfb.sh" --gestor "${solo[@]}" dbus-run-session -- \
+        bash "$here/teclado.sh" "$(realpath "$1")" --sesion
+fi
+
+# The session itself.
+. "$here/x.sh"
+sesion=$(mktemp -d)
+trap 'rm -rf "$sesion"' EXIT
 # Settings of this session's own: Orca's, and those it keeps in dconf.
-export XDG_DATA_HOME="$sesion.d/data" XDG_CONFIG_HOME="$sesion.d/config"
-# espera TRIES PAUSE COMMAND...: the command tried until it holds, at most
-# TRIES times, PAUSE seconds apart; status 1 if it never did.
-espera() {
-    local n=\$1 pausa=\$2
-    shift 2
-    for _ in \$(seq \$n); do "\$@" && return; sleep \$pausa; done
-    return 1
-}
+export XDG_DATA_HOME="$sesion/data" XDG_CONFIG_HOME="$sesion/config"
 # The accessibility bus started (asking for its address does) before the
-# game; it may take seconds on a loaded machine.
+# game; it may take seconds on a loaded machine. Each try waits at most a
+# second for the answer.
 bus() {
     dbus-send --session --print-reply --reply-timeout=1000 --dest=org.a11y.Bus /org/a11y/bus \
         org.a11y.Bus.GetAddress > /dev/null 2>&1
 }
-# Each try waits at most a second for the answer.
 espera 30 1 bus || { echo "no accessibility bus after 30 tries a second apart"; exit 1; }
 # Orca, the desktop's screen reader, writes all it would say into its debug
 # file; through a terminal (script) it writes each line as it comes. It finds
@@ -35,25 +39,15 @@ espera 30 1 bus || { echo "no accessibility bus after 30 tries a second apart"; 
 # set whose handler, two seconds on, writes to the debug file; landing in the
 # middle of a write, it broke off what Orca was presenting (once in about 50
 # sessions on a loaded machine).
-script -qfc "orca --debug-file /dev/stdout" \
-    "$sesion.d/orca" > /dev/null 2>&1 &
-orca=\$!
-espera 300 0.1 grep -qs "Screen reader on" "$sesion.d/orca" || { tail -n 30 "$sesion.d/orca"; echo "Orca not on in 30 s"; exit 1; }
+script -qfc "orca --debug-file /dev/stdout" "$sesion/orca" > /dev/null 2>&1 &
+orca=$!
+espera 300 0.1 grep -qs "Screen reader on" "$sesion/orca" ||
+    { tail -n 30 "$sesion/orca"; echo "Orca not on in 30 s"; exit 1; }
 status=0
-/usr/bin/python3 "$here/teclado.py" "$(realpath "$1")" "$sesion.d/orca" || status=\$?
+/usr/bin/python3 "$here/teclado.py" "$1" "$sesion/orca" || status=$?
 # On a failure, Orca's own account of the windows and notifications it
 # took or dropped, and why.
-[ \$status = 0 ] || grep -aE 'Dequeued (window:|object:state-changed:showing.*notification)|obsoleted|Not processing|defunct|active script to|Exception processing' \
-    "$sesion.d/orca" | cut -c 1-220 | tail -n 40
-kill \$orca 2> /dev/null || true
-exit \$status
-SESION
-# Orca will not start beside another Orca of the same user on the machine,
-# which it finds by process name: where it can, the session has a process
-# namespace of its own, so that two sessions run at once, and an Orca that
-# outlives its session goes with the namespace.
-solo=(unshare --pid --fork --mount-proc)
-[ "$(id -u)" = 0 ] || solo=(unshare --user --map-root-user --pid --fork --mount-proc)
-"${solo[@]}" true 2> /dev/null || { echo "teclado.sh: no process namespace of its own here" >&2; solo=(); }
-# The window manager managing first, so that new windows get the focus.
-bash "$here/xvfb.sh" --gestor "${solo[@]}" dbus-run-session -- bash "$sesion"
+[ $status = 0 ] || grep -aE 'Dequeued (window:|object:state-changed:showing.*notification)|obsoleted|Not processing|defunct|active script to|Exception processing' \
+    "$sesion/orca" | cut -c 1-220 | tail -n 40
+kill $orca 2> /dev/null || true
+exit $status

@@ -20,15 +20,11 @@ trap '[ -n "$game" ] && kill "$game" 2> /dev/null || true' EXIT
 QT_SCALE_FACTOR=$scale ./build/supertirlo &
 game=$!
 
+. tests/x.sh
 # Waits for a window whose title matches, gives it the focus, prints its id.
 window() {
-    local id=""
-    for _ in $(seq 50); do
-        id=$(xdotool search --onlyvisible --name "$1" 2> /dev/null | tail -n 1) && [ -n "$id" ] && break
-        sleep 0.1
-    done
-    [ -n "$id" ] || { echo "no window '$1'" >&2; exit 1; }
-    xdotool windowactivate --sync "$id" 2> /dev/null || xdotool windowfocus --sync "$id"
+    local id
+    id=$(enfoca "$1" 5) || exit 1
     sleep 0.3
     echo "$id"
 }
@@ -57,7 +53,7 @@ import -window "$main" "$out/main-window.png" # the picture for the README
 keys alt+o
 shot 04-menu-es
 keys n
-window "Nivel" > /dev/null
+window "^Nivel$" > /dev/null
 shot 05-level-es
 keys Return
 main=$(window "El famoso juego del tirlo")
@@ -86,7 +82,7 @@ main=$(window "The tic tac toe")
 shot 10-main-en
 keys alt+o v
 keys alt+o l
-window "Level" > /dev/null
+window "^Level$" > /dev/null
 shot 11-level-en
 keys Return
 window "The tic tac toe" > /dev/null
@@ -101,10 +97,6 @@ shot 13-opponents-en
 keys Escape
 window "The tic tac toe" > /dev/null
 keys alt+o e
-for _ in $(seq 30); do kill -0 "$game" 2> /dev/null || break; sleep 0.1; done
-if kill -0 "$game" 2> /dev/null; then
-    echo "the game did not end on Exit" >&2
-    exit 1
-fi
+termina "$game" 3 || { echo "the game did not end on Exit in 3 s" >&2; exit 1; }
 game=""
 echo "Exit ended the game."
