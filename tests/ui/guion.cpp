@@ -332,6 +332,9 @@ class Guion {
             EXPECT_EQ(oido, esperado);
         } else if (orden == "readable") {
             BienVisible(Delante());
+        } else if (orden == "drawn-anew") { // the panel's picture, unlike at the last such line
+            const QImage ahora = Form1().Panel->grab().toImage();
+            EXPECT_NE(std::exchange(panel_, ahora), ahora);
         } else if (orden == "grid") { // the lines between the squares, at any scale
             const QImage imagen = Form1().centralWidget()->grab().toImage();
             const qreal escala = imagen.devicePixelRatio();
@@ -363,6 +366,7 @@ class Guion {
     int ocupado_ = 0; // the loop level of the line running
     int salida_ = -1; // how the last run of the loop ended
     std::unique_ptr<AzarGuionado> azar_;
+    QImage panel_;
 };
 
 } // namespace
