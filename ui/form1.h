@@ -59,8 +59,7 @@ class VentanaPrincipal : public Formulario<QMainWindow> {
     Integer PintaComputadora();
     // A line or a full board ends the game with the message of the line
     // (text, name, close) or the draw's: true if it ended.
-    bool FinSiTermino(const QString &texto, const QString &nombre = {},
-                      const QString &cierre = {});
+    bool FinSiTermino(const QString &texto, const QString &nombre = {}, const QString &cierre = {});
     // What the board and the panel now say, told to a screen reader once:
     // the squares just played (-1 for none), then the panel's message.
     void Informa(std::initializer_list<Integer> jugadas);

@@ -62,7 +62,8 @@ void VentanaIdioma::CargaIdioma()
     const bool ingles = optIngles->isChecked();
     lblGracias->setText(ingles ? QStringLiteral("Thank you for to play my game")
                                : QStringLiteral("Gracias por jugar mi juego"));
-    setWindowTitle(ingles ? QStringLiteral("Idiom selection") : QStringLiteral("Selección de idioma"));
+    setWindowTitle(ingles ? QStringLiteral("Idiom selection")
+                          : QStringLiteral("Selección de idioma"));
     CargaTextos(ingles);
 }
 
