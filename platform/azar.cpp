@@ -51,7 +51,7 @@ void UsaFuenteAzar(FuenteAzar *fuente)
 
 void Randomize(float semilla)
 {
-    generador.Randomize(semilla);
+    fuenteActual->Randomize(semilla);
 }
 
 float SegundosDesdeMedianoche()

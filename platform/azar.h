@@ -9,6 +9,8 @@ class FuenteAzar {
     virtual ~FuenteAzar() = default;
     // One uniform single-precision value in [0, 1).
     virtual float Rnd() = 0;
+    // The draws from then on follow the seed.
+    virtual void Randomize(float semilla) = 0;
     // One choice among n entries: draws one value x and returns floor(n * x).
     virtual int Elige(int n);
 };
@@ -17,7 +19,7 @@ class FuenteAzar {
 class GeneradorAzar final : public FuenteAzar {
   public:
     float Rnd() override;
-    void Randomize(float semilla);
+    void Randomize(float semilla) override;
 
   private:
     std::uint64_t estado_ = 0x5375706572546972ULL;
@@ -27,7 +29,7 @@ class GeneradorAzar final : public FuenteAzar {
 FuenteAzar &Azar();
 // Puts a source in place of the generator; nullptr gives the generator back.
 void UsaFuenteAzar(FuenteAzar *fuente);
-// Seeds the program's generator.
+// Seeds the source in use.
 void Randomize(float semilla);
 // The time of day in seconds since midnight, as the seed is taken.
 float SegundosDesdeMedianoche();

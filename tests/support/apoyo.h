@@ -13,8 +13,8 @@ Board DesdeTexto(const std::string &celdas);
 std::string ComoTexto(const Board &b);
 
 // The source in use while it lives: hands out scripted values (0 past the
-// end, counted as an overrun), counts the draws and records the size of
-// every choice asked for.
+// end, counted as an overrun), counts the draws, records the size of every
+// choice asked for, and every seed with the draws made before it.
 struct AzarGuionado final : FuenteAzar {
     explicit AzarGuionado(std::vector<float> v = {}) : valores(std::move(v))
     {
@@ -22,9 +22,11 @@ struct AzarGuionado final : FuenteAzar {
     }
     ~AzarGuionado() override { UsaFuenteAzar(nullptr); }
     float Rnd() override;
+    void Randomize(float semilla) override { semillas.emplace_back(semilla, sacadas); }
     int Elige(int n) override { return tamanos.push_back(Integer(n)), FuenteAzar::Elige(n); }
     std::vector<float> valores;
     std::vector<Integer> tamanos;
+    std::vector<std::pair<float, int>> semillas;
     int sacadas = 0;
     int excedidas = 0;
 };
