@@ -52,20 +52,6 @@ QAccessibleInterface *Accesible(QObject *o)
     return Accesible(menu)->child(int(menu->actions().indexOf(item)));
 }
 
-Cache CacheAccesible()
-{
-    // Qt numbers the interfaces it caches upwards from 2^31: a new one's
-    // number bounds those made before it.
-    QWidget sonda;
-    const QAccessible::Id ultima =
-        QAccessible::uniqueId(QAccessible::queryAccessibleInterface(&sonda));
-    Cache c;
-    for (QAccessible::Id id = QAccessible::Id(INT_MAX) + 1; id < ultima; ++id)
-        if (QAccessibleInterface *i = QAccessible::accessibleInterface(id))
-            ++(i->isValid() ? c.vivas : c.huerfanas);
-    return c;
-}
-
 QColor ColorFondo(QWidget *w)
 {
     if (auto *dialogo = dynamic_cast<Dialogo *>(w))
@@ -134,16 +120,6 @@ QStringList Textos(QWidget *v, bool lugar)
             t << s;
     }
     return t;
-}
-
-QStringList Grafemas(const QString &texto)
-{
-    QStringList trozos;
-    QTextBoundaryFinder limites(QTextBoundaryFinder::Grapheme, texto);
-    for (qsizetype inicio = 0, p; (p = limites.toNextBoundary()) != -1;)
-        if (p == texto.size() || !texto[p].isLowSurrogate()) // not within a surrogate pair
-            trozos << texto.mid(inicio, p - inicio), inicio = p;
-    return trozos;
 }
 
 int main(int argc, char **argv)

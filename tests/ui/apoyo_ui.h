@@ -53,16 +53,6 @@ void Clic(QAbstractButton *b);
 // interface Qt's AT-SPI bridge acts through.
 QAccessibleInterface *Accesible(QObject *o);
 
-// What Qt's accessibility cache holds: interfaces of living objects, and of
-// objects already destroyed, which none should outlive.
-struct Cache {
-    int vivas = 0, huerfanas = 0;
-};
-Cache CacheAccesible();
-
-// The characters of a text as a person sees them (grapheme clusters).
-QStringList Grafemas(const QString &texto);
-
 // Runs a script of actions and checks, as guiones.txt explains them; `start`
 // chooses English when `ingles`.
 void Ejecuta(const QStringList &lineas, bool ingles);

@@ -235,8 +235,9 @@ class Guion {
         } else if (orden == "close") {
             Cierra(Delante());
         } else if (orden == "type") {
-            for (const QString &c : Grafemas(texto)) { // a key per character, whatever its script
-                QKeyEvent tecla(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, c);
+            for (char32_t c : texto.toUcs4()) { // a key per code point
+                QKeyEvent tecla(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier,
+                                QString::fromUcs4(&c, 1));
                 QApplication::sendEvent(Caja(n), &tecla);
             }
         } else if (orden == "paste") { // with Ctrl+V, where there is a clipboard
