@@ -10,18 +10,6 @@
 
 namespace {
 
-// Closes the window as the window manager asks, through the window system.
-void Cierra(QWidget *ventana)
-{
-    QWindowSystemInterface::handleCloseEvent<QWindowSystemInterface::SynchronousDelivery>(
-        ventana->windowHandle());
-}
-
-QString Nombre(QObject *o)
-{
-    return Accesible(o)->text(QAccessible::Name);
-}
-
 // WCAG's relative luminance.
 double Luz(const QColor &c)
 {
@@ -214,16 +202,17 @@ class Guion {
         } else if (orden == "toggle") { // the other of two options
             Clic(Opcion(Opcion(0)->isChecked() ? 1 : 0));
         } else if (orden == "press" || orden == "behind") {
-            // press/behind sq K | button N | menu ITEM | select BOX FROM TO, or
-            // behind close: in the window in front, or in the one under it (the
-            // owner of a message box, else the main window); closed as the
-            // window manager asks, or pressed or selected as a screen reader does.
+            // press/behind sq K | button N | menu ITEM | select BOX FROM TO | close:
+            // in the window in front, or in the one under it (the owner of a
+            // message box, else the main window); pressed or selected as a
+            // screen reader does, or closed as the window manager asks.
             QWidget *v = orden == "press"            ? Delante()
                          : Delante()->parentWidget() ? Delante()->parentWidget()
                                                      : &Form1();
             const int i = p.value(1).toInt();
-            if (p.value(0) == "close")
-                return Cierra(v);
+            if (p.value(0) == "close") // through the window system, as the window manager asks
+                return void(QWindowSystemInterface::handleCloseEvent<
+                            QWindowSystemInterface::SynchronousDelivery>(v->windowHandle()));
             if (p.value(0) == "select")
                 return Accesible(v->findChildren<QLineEdit *>().at(i))
                     ->textInterface()
@@ -232,8 +221,6 @@ class Guion {
                   : p.value(0) == "menu" ? static_cast<QObject *>(Item(p.value(1)))
                                          : v->findChildren<QPushButton *>().at(i));
             QCoreApplication::processEvents(); // it lands once the loop is back
-        } else if (orden == "close") {
-            Cierra(Delante());
         } else if (orden == "type") {
             for (char32_t c : texto.toUcs4()) { // a key per code point
                 QKeyEvent tecla(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier,
@@ -273,10 +260,10 @@ class Guion {
         } else if (orden == "board") { // as a screen reader reads the squares: X, 0 or empty
             QString s;
             for (QPushButton *b : Form1().cmdtir)
-                s += Nombre(b).section(": ", 1).left(1).replace(QRegularExpression("[^X0]"), ".");
-            EXPECT_EQ(s, resto);
+                s += Accesible(b)->text(QAccessible::Name).section(": ", 1).left(1);
+            EXPECT_EQ(s.replace(QRegularExpression("[^X0]"), "."), resto);
         } else if (orden == "status") { // as a screen reader reads it
-            EXPECT_EQ(Nombre(Form1().Panel), Texto(resto));
+            EXPECT_EQ(Accesible(Form1().Panel)->text(QAccessible::Name), Texto(resto));
         } else if (orden == "heard") { // the last notification, told once the window is active
             ASSERT_TRUE(Activa());
             QCoreApplication::processEvents();
@@ -327,7 +314,7 @@ class Guion {
             QStringList oido;
             ASSERT_TRUE(Activa());
             while (oido.size() < esperado.size()) {
-                oido << Nombre(QApplication::focusWidget());
+                oido << Accesible(QApplication::focusWidget())->text(QAccessible::Name);
                 QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
             }
             EXPECT_EQ(oido, esperado);
@@ -348,13 +335,13 @@ class Guion {
                 EXPECT_TRUE(en(q.x(), q.y())) << q.x() << "," << q.y() << " at scale " << escala;
             EXPECT_FALSE(en(113, 20)); // under the panel
         } else if (orden == "focus") {
-            EXPECT_EQ(Delante()->focusWidget(), Caja(p.value(0).toInt()));
+            EXPECT_EQ(Delante()->focusWidget(), Caja(n));
         } else if (orden == "text") {
-            EXPECT_EQ(Caja(p.value(0).toInt())->text(), texto);
+            EXPECT_EQ(Caja(n)->text(), texto);
         } else if (orden == "selection") {
-            EXPECT_EQ(Caja(p.value(0).toInt())->selectedText(), texto);
+            EXPECT_EQ(Caja(n)->selectedText(), texto);
         } else if (orden == "selected") {
-            EXPECT_TRUE(Opcion(p.value(0).toInt())->isChecked());
+            EXPECT_TRUE(Opcion(n)->isChecked());
         } else {
             ADD_FAILURE() << "unknown step";
         }

@@ -72,13 +72,6 @@ class Jugador {
         Clic(Una(v->findChildren<QAbstractButton *>()));
     }
 
-    // The direction isolates, by Unicode's own classes.
-    static bool Aislante(QChar c)
-    {
-        return QList{QChar::DirLRI, QChar::DirRLI, QChar::DirFSI, QChar::DirPDI}.contains(
-            c.direction());
-    }
-
     // An action through the accessibility interface on any control, window
     // or menu item; one outside the window in front changes nothing.
     void Asiste()
@@ -169,10 +162,13 @@ class Jugador {
         }
         ASSERT_TRUE(nivel <= 1 && oponentes <= 1 &&
                     QApplication::topLevelWidgets().size() == 2 + nivel + oponentes);
-        // The panel reads as its caption, without what isolates a name.
+        // The panel reads as its caption, without what isolates a name (the
+        // last four of Unicode's direction classes).
         ASSERT_EQ(Accesible(Form1().Panel)->text(QAccessible::Name),
-                  QString(Form1().Panel->text()).removeIf(Aislante));
-        // Names come in pairs, trimmed, as long as a box holds at most.
+                  QString(Form1().Panel->text()).removeIf([](QChar c) {
+                      return c.direction() >= QChar::DirLRI;
+                  }));
+        // Names come in pairs, trimmed, a clean line each.
         for (const std::string *j : {&Jugador1, &Jugador2}) {
             const QString nombre = QString::fromStdString(*j);
             ASSERT_TRUE(!nombre.startsWith(' ') && !nombre.endsWith(' ') && NombreSano(nombre) &&
