@@ -62,14 +62,17 @@ QColor ColorFondo(QWidget *w)
 // What the player sees of one control: its text, the selected option marked
 // "(*)", a text box's limit, a menu with its items ("[x]" checked, "[-]"
 // disabled); "_" for nothing. Empty when it is no control of those kinds.
-// A raised bevel with its width, and the colour of a background the widget
-// paints itself.
+// A raised bevel with its width, a label's margin, and the colour of a
+// background the widget paints itself.
 QString Fondo(QWidget *w)
 {
     auto *marco = qobject_cast<QFrame *>(w);
     const bool bisel = marco && marco->frameStyle() == (QFrame::Panel | QFrame::Raised);
+    auto *etiqueta = qobject_cast<QLabel *>(w);
+    const int margen = etiqueta ? etiqueta->margin() : 0;
     const QColor color = ColorFondo(w);
     return (bisel ? QStringLiteral(" raised %1").arg(marco->lineWidth()) : QString()) +
+           (margen ? QStringLiteral(" margin %1").arg(margen) : QString()) +
            (color.isValid() ? " " + color.name() : QString());
 }
 
