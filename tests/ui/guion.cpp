@@ -168,7 +168,6 @@ class Guion {
         return Form1().mnuOpciones->actions().at(items.indexOf(nombre));
     }
 
-    QAbstractButton *Boton(int i) const { return Delante()->findChildren<QPushButton *>().at(i); }
     QRadioButton *Opcion(int i) const { return Delante()->findChildren<QRadioButton *>().at(i); }
     QLineEdit *Caja(int i) const { return Delante()->findChildren<QLineEdit *>().at(i); }
 
@@ -196,7 +195,7 @@ class Guion {
         } else if (orden == "new") {
             Clic(Form1().cmdnuevo);
         } else if (orden == "ok" || orden == "cancel") {
-            Clic(Boton(orden == "ok" ? 0 : 1));
+            Clic(Delante()->findChildren<QPushButton *>().at(orden == "ok" ? 0 : 1));
         } else if (orden == "opt") {
             Clic(Opcion(n));
         } else if (orden == "toggle") { // the other of two options
