@@ -156,11 +156,6 @@ class Guion {
         return QApplication::activeWindow() == Delante();
     }
 
-    static void Pulsa(QObject *o)
-    {
-        Accesible(o)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    }
-
     // The menu's items, in the order it lists them.
     static QAction *Item(const QString &nombre)
     {
@@ -216,9 +211,11 @@ class Guion {
                 return Accesible(v->findChildren<QLineEdit *>().at(i))
                     ->textInterface()
                     ->setSelection(0, p.value(2).toInt(), p.value(3).toInt());
-            Pulsa(p.value(0) == "sq"     ? static_cast<QObject *>(Form1().cmdtir[i])
-                  : p.value(0) == "menu" ? static_cast<QObject *>(Item(p.value(1)))
-                                         : v->findChildren<QPushButton *>().at(i));
+            Accesible(p.value(0) == "sq"     ? static_cast<QObject *>(Form1().cmdtir[i])
+                      : p.value(0) == "menu" ? static_cast<QObject *>(Item(p.value(1)))
+                                             : v->findChildren<QPushButton *>().at(i))
+                ->actionInterface()
+                ->doAction(QAccessibleActionInterface::pressAction());
             QCoreApplication::processEvents(); // it lands once the loop is back
         } else if (orden == "type") {
             for (char32_t c : texto.toUcs4()) { // a key per code point
@@ -337,8 +334,9 @@ class Guion {
             EXPECT_EQ(Delante()->focusWidget(), Caja(n));
         } else if (orden == "text") {
             EXPECT_EQ(Caja(n)->text(), texto);
-        } else if (orden == "selection") {
+        } else if (orden == "selection") { // selection N |TEXT| CARET
             EXPECT_EQ(Caja(n)->selectedText(), texto);
+            EXPECT_EQ(Caja(n)->cursorPosition(), p.last().toInt());
         } else if (orden == "selected") {
             EXPECT_TRUE(Opcion(n)->isChecked());
         } else {
