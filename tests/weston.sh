@@ -9,7 +9,26 @@ export XDG_RUNTIME_DIR WAYLAND_DISPLAY=tirlo-$$
 weston --backend=headless-backend.so --use-pixman --socket="$WAYLAND_DISPLAY" \
     --width=1024 --height=768 --idle-time=0 > "$XDG_RUNTIME_DIR/weston.log" 2>&1 &
 weston=$!
-trap 'kill $weston 2> /dev/null; wait $weston 2> /dev/null; rm -rf "$XDG_RUNTIME_DIR"' EXIT
+# Waits up to SECONDS for a process of this shell to end, for its status;
+# one still running then shows its threads' stacks and is killed (status 124).
+acaba() { # WHAT PID SECONDS
+    for _ in $(seq $(($3 * 10))); do
+        kill -0 "$2" 2> /dev/null || { wait "$2"; return; }
+        sleep 0.1
+    done
+    echo "weston.sh: $1 still running $3 s on; its threads:"
+    eu-stack -p "$2" || true
+    kill -9 "$2"
+    return 124
+}
+fin() {
+    local status=$? # the script's, unless the compositor hangs as it ends
+    kill $weston 2> /dev/null
+    acaba weston $weston 10 || [ $? != 124 ] || status=124
+    rm -rf "$XDG_RUNTIME_DIR"
+    exit $status
+}
+trap fin EXIT
 for _ in $(seq 200); do
     [ -S "$XDG_RUNTIME_DIR/$WAYLAND_DISPLAY" ] && break
     kill -0 $weston 2> /dev/null || { cat "$XDG_RUNTIME_DIR/weston.log"; exit 1; }
@@ -19,8 +38,8 @@ done
 # It has no seat: no keyboard, no clipboard, and no input method, whose
 # Wayland protocol Qt 6.4 would look for on a seat and crash without. It
 # draws with pixman: no GPU buffers for Qt to share with it.
-cliente() { QT_IM_MODULE=none QT_WAYLAND_CLIENT_BUFFER_INTEGRATION=none "$@"; }
-[ "$1" = --gtest ] || { cliente "$@"; exit; }
+export QT_IM_MODULE=none QT_WAYLAND_CLIENT_BUFFER_INTEGRATION=none
+[ "$1" = --gtest ] || { "$@"; exit; }
 
 # Qt's Wayland client before 6.8 (6.4.2 has it, 6.8.2 not) destroys a
 # window's last frame callback on two threads at once when the window hides
@@ -33,8 +52,12 @@ salida=$XDG_RUNTIME_DIR/salida
 anterior() { [ "$(printf '%s\n' "$TIRLO_QT_VERSION" 6.8 | sort -V | head -n 1)" != 6.8 ]; }
 while :; do
     status=0
-    # Shown as it comes: a case that hangs is the last one shown when CTest's time runs out.
-    cliente "$programa" "--gtest_filter=$filtro${fuera:+-${fuera#:}}" 2>&1 | tee "$salida" || status=$?
+    : > "$salida"
+    "$programa" "--gtest_filter=$filtro${fuera:+-${fuera#:}}" > "$salida" 2>&1 &
+    cliente=$!
+    tail -s 0.1 -f --pid=$cliente "$salida" & # shown as it comes
+    acaba "the client" $cliente 60 || status=$?
+    wait $!
     grep -q '^\[  FAILED  \]' "$salida" && fallos=1
     [ $status != 0 ] && anterior && grep -q "wl_proxy_unref: Assertion .proxy->refcount > 0' failed" "$salida" ||
         exit $((status ? status : fallos))

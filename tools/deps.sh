@@ -6,7 +6,7 @@ set -euo pipefail
 build=(build-essential cmake qt6-base-dev qt6-base-private-dev qt6-translations-l10n libgtest-dev libgmock-dev libbenchmark-dev fonts-liberation2)
 case "${1:-}" in
     build) wanted=("${build[@]}") ;;
-    test) wanted=("${build[@]}" desktop-file-utils appstream dpkg-dev file lintian xvfb xauth xdotool x11-utils openbox dbus at-spi2-core python3-pyatspi orca weston qt6-wayland) ;;
+    test) wanted=("${build[@]}" desktop-file-utils appstream dpkg-dev file lintian xvfb xauth xdotool x11-utils openbox dbus at-spi2-core python3-pyatspi orca weston qt6-wayland elfutils) ;;
     bench) wanted=("${build[@]}" libx11-dev xvfb xauth dbus) ;;
     shots) wanted=("${build[@]}" xvfb xauth xdotool x11-utils imagemagick openbox) ;;
     windows) wanted=(cmake ninja-build dpkg-dev qt6-base-dev qt6-translations-l10n googletest
