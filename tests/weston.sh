@@ -9,13 +9,11 @@ export XDG_RUNTIME_DIR WAYLAND_DISPLAY=tirlo-$$
 weston --backend=headless-backend.so --use-pixman --socket="$WAYLAND_DISPLAY" \
     --width=1024 --height=768 --idle-time=0 > "$XDG_RUNTIME_DIR/weston.log" 2>&1 &
 weston=$!
-# Waits up to SECONDS for a process of this shell to end, for its status;
-# one still running then shows its threads' stacks and is killed (status 124).
-acaba() { # WHAT PID SECONDS
-    for _ in $(seq $(($3 * 10))); do
-        kill -0 "$2" 2> /dev/null || { wait "$2"; return; }
-        sleep 0.1
-    done
+# Waits up to SECONDS for a process of this shell to end, for its status,
+# showing FILE as it grows; one still running then shows its threads'
+# stacks and is killed (status 124).
+acaba() { # WHAT PID SECONDS FILE
+    if timeout "$3" tail -s 0.1 -f --pid="$2" "$4"; then wait "$2"; return; fi
     echo "weston.sh: $1 still running $3 s on; its threads:"
     eu-stack -p "$2" || true
     kill -9 "$2"
@@ -24,7 +22,7 @@ acaba() { # WHAT PID SECONDS
 fin() {
     local status=$? # the script's, unless the compositor hangs as it ends
     kill $weston 2> /dev/null
-    acaba weston $weston 10 || [ $? != 124 ] || status=124
+    acaba weston $weston 10 /dev/null || [ $? != 124 ] || status=124
     rm -rf "$XDG_RUNTIME_DIR"
     exit $status
 }
@@ -54,10 +52,7 @@ while :; do
     status=0
     : > "$salida"
     "$programa" "--gtest_filter=$filtro${fuera:+-${fuera#:}}" > "$salida" 2>&1 &
-    cliente=$!
-    tail -s 0.1 -f --pid=$cliente "$salida" & # shown as it comes
-    acaba "the client" $cliente 60 || status=$?
-    wait $!
+    acaba "the client" $! 60 "$salida" || status=$?
     grep -q '^\[  FAILED  \]' "$salida" && fallos=1
     [ $status != 0 ] && anterior && grep -q "wl_proxy_unref: Assertion .proxy->refcount > 0' failed" "$salida" ||
         exit $((status ? status : fallos))
