@@ -4,6 +4,7 @@
 #   weston.sh COMMAND...
 #   weston.sh --gtest PROGRAM FILTER    GoogleTest's cases; see the end
 set -euo pipefail
+. "$(dirname "$0")/x.sh"
 XDG_RUNTIME_DIR=$(mktemp -d)
 export XDG_RUNTIME_DIR WAYLAND_DISPLAY=tirlo-$$
 weston --backend=headless-backend.so --use-pixman --socket="$WAYLAND_DISPLAY" \
@@ -12,8 +13,8 @@ weston=$!
 # Waits up to SECONDS for a process of this shell to end, for its status,
 # showing FILE as it grows; one still running then shows its threads'
 # stacks and is killed (status 124).
-acaba() { # WHAT PID SECONDS FILE
-    if timeout "$3" tail -s 0.1 -f --pid="$2" "$4"; then wait "$2"; return; fi
+acaba() { # WHAT PID SECONDS [FILE]
+    termina "$2" "$3" "${4:-}" && { wait "$2"; return; }
     echo "weston.sh: $1 still running $3 s on; its threads:"
     eu-stack -p "$2" || true
     kill -9 "$2"
@@ -22,7 +23,7 @@ acaba() { # WHAT PID SECONDS FILE
 fin() {
     local status=$? # the script's, unless the compositor hangs as it ends
     kill $weston 2> /dev/null
-    acaba weston $weston 10 /dev/null || [ $? != 124 ] || status=124
+    acaba weston $weston 10 || [ $? != 124 ] || status=124
     rm -rf "$XDG_RUNTIME_DIR"
     exit $status
 }

@@ -1,5 +1,5 @@
-# What the scripts that drive the game's windows on an X display share;
-# sourced. Every wait has a bound and says what it waited for.
+# What the scripts that drive the game's windows share (on an X display,
+# save the waits); sourced. Every wait has a bound and says what it waited for.
 
 # espera TRIES PAUSE COMMAND...: the command tried until it holds, at most
 # TRIES times, PAUSE seconds apart; status 1 if it never did.
@@ -29,7 +29,8 @@ enfoca() {
     echo "$id"
 }
 
-# termina PID SECONDS: true once the process has ended, waiting at most SECONDS.
+# termina PID SECONDS [FILE]: true once the process has ended, waiting at
+# most SECONDS, meanwhile showing FILE as it grows.
 termina() {
-    timeout "$2" tail --pid="$1" -f /dev/null
+    timeout "$2" tail -s 0.1 --pid="$1" -f "${3:-/dev/null}"
 }
