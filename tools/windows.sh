@@ -71,7 +71,9 @@ build=$PWD/build-windows
 windows_path() { local p; p=$(realpath "$1"); printf 'Z:%s' "${p//\//\\}"; }
 runtime=$(x86_64-w64-mingw32-g++-posix -print-file-name=libstdc++-6.dll)
 pthread=$(x86_64-w64-mingw32-g++-posix -print-file-name=libwinpthread-1.dll)
-export WINEPREFIX=$build/wine WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml="
+# Wine's errors only: a test that cannot load a library, say, would
+# otherwise fail at once with no word.
+export WINEPREFIX=$build/wine WINEDEBUG=-all,err+all WINEDLLOVERRIDES="mscoree,mshtml="
 export WINEPATH="$(windows_path "$qt/bin");$(windows_path "${runtime%/*}");$(windows_path "${pthread%/*}")"
 unset QT_QPA_PLATFORM QT_SCALE_FACTOR
 mkdir -p "$build"
