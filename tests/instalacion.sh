@@ -4,7 +4,9 @@
 # finds no error or warning, and the packaged binary starts and ends by
 # itself on Exit; its windows name the desktop entry on X11 and Wayland.
 #   instalacion.sh BUILD-DIR
-set -euo pipefail
+set -Eeuo pipefail
+# Each check is a command that fails: the one that did is named.
+trap 'echo "instalacion.sh: line $LINENO failed: $BASH_COMMAND" >&2' ERR
 here=$(cd "$(dirname "$0")" && pwd)
 id=org.supertirlo.SuperTirlo
 . "$here/x.sh"
@@ -110,7 +112,9 @@ test -x "$binary"
 status=0
 env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM XDG_RUNTIME_DIR="$scratch" "$binary" \
     > "$scratch/out" 2> "$scratch/err" || status=$?
-[ $status = 1 ] && [ ! -s "$scratch/out" ] && [ "$(wc -l < "$scratch/err")" = 1 ]
+[ $status = 1 ]
+[ ! -s "$scratch/out" ]
+[ "$(wc -l < "$scratch/err")" = 1 ]
 grep -q '^supertirlo: no display to open a window on (xcb;wayland): .' "$scratch/err"
 cat "$scratch/err"
 
