@@ -14,6 +14,9 @@ unset WINEPATH # the game finds what it loads in its own folder, or not at all
 trap 'wineserver -k 2> /dev/null || true; rm -rf "$WINEPREFIX"' EXIT
 fail() { echo "instalador.sh: $*" >&2; exit 1; }
 . "$(dirname "$0")/x.sh"
+# Debian's Wine server ends with its last program (-p0): each program here
+# starts once the last one's session has ended, not while it shuts down.
+wine() { wineserver -w; command wine "$@"; }
 wineboot -i > /dev/null 2>&1
 wineserver -w
 

@@ -78,6 +78,15 @@ export WINEPATH="$(windows_path "$qt/bin");$(windows_path "${runtime%/*}");$(win
 unset QT_QPA_PLATFORM QT_SCALE_FACTOR
 mkdir -p "$build"
 [ -d "$WINEPREFIX" ] || { wineboot -i > /dev/null 2>&1; wineserver -w; }
+# One Wine session for the build's and the tests' programs, as on a Windows
+# desktop. Debian's Wine server ends with its last program (-p0), so each
+# program would otherwise start the server and its services anew while the
+# last one's were still shutting down; one started in that moment may end at
+# once, or find no service manager. The session's services keep the output
+# of the program that starts them: it goes nowhere, not to a test's log.
+wineserver -p
+trap 'wineserver -k' EXIT
+wineboot < /dev/null > /dev/null 2>&1
 
 start=$SECONDS
 cmake -G Ninja -S . -B "$build" -DCMAKE_BUILD_TYPE=Release \
