@@ -18,7 +18,6 @@ fail() { echo "instalador.sh: $*" >&2; exit 1; }
 # starts once the last one's session has ended, not while it shuts down.
 wine() { wineserver -w; command wine "$@"; }
 wineboot -i > /dev/null 2>&1
-wineserver -w
 
 c=$WINEPREFIX/drive_c
 dir="$c/Program Files/Super Tirlo"
