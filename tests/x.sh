@@ -11,11 +11,17 @@ espera() {
 }
 
 # ventana TITLE [SECONDS]: the id of the first window on screen whose title
-# matches TITLE, waited for at most SECONDS (10 by default).
+# matches TITLE, waited for at most SECONDS (10 by default). One search a
+# look: xdotool ends on the X error it meets when a window goes while it
+# looks (Wine makes and drops many as it starts), so its --sync cannot wait.
 ventana() {
-    local id
-    id=$(timeout "${2:-10}" xdotool search --sync --onlyvisible --name "$1" | head -n 1) &&
-        [ -n "$id" ] || { echo "no window /$1/ in ${2:-10} s" >&2; return 1; }
+    local fin=$((SECONDS + ${2:-10})) salida id
+    while :; do
+        salida=$(timeout "${2:-10}" xdotool search --onlyvisible --name "$1" 2>&1) || true
+        id=$(grep -m 1 -x '[0-9]\+' <<< "$salida") && break
+        [ $SECONDS -lt $fin ] || { echo "no window /$1/ in ${2:-10} s${salida:+; xdotool: $salida}" >&2; return 1; }
+        sleep 0.1
+    done
     echo "$id"
 }
 
