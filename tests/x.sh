@@ -10,18 +10,21 @@ espera() {
     return 1
 }
 
+# mira TITLE: one look for a window on screen whose title matches TITLE: its
+# id in $id, what xdotool said in $salida. One search a look, as xdotool ends
+# on the X error it meets when a window goes while it looks (Wine makes and
+# drops many as it starts), so its --sync cannot be the wait.
+mira() {
+    salida=$(timeout 5 xdotool search --onlyvisible --name "$1" 2>&1) || true
+    id=$(grep -m 1 -x '[0-9]\+' <<< "$salida")
+}
+
 # ventana TITLE [SECONDS]: the id of the first window on screen whose title
-# matches TITLE, waited for at most SECONDS (10 by default). One search a
-# look: xdotool ends on the X error it meets when a window goes while it
-# looks (Wine makes and drops many as it starts), so its --sync cannot wait.
+# matches TITLE, waited for at most SECONDS (10 by default).
 ventana() {
-    local fin=$((SECONDS + ${2:-10})) salida id
-    while :; do
-        salida=$(timeout "${2:-10}" xdotool search --onlyvisible --name "$1" 2>&1) || true
-        id=$(grep -m 1 -x '[0-9]\+' <<< "$salida") && break
-        [ $SECONDS -lt $fin ] || { echo "no window /$1/ in ${2:-10} s${salida:+; xdotool: $salida}" >&2; return 1; }
-        sleep 0.1
-    done
+    local salida id
+    espera $((${2:-10} * 10)) 0.1 mira "$1" ||
+        { echo "no window /$1/ in ${2:-10} s${salida:+; xdotool: $salida}" >&2; return 1; }
     echo "$id"
 }
 
