@@ -82,10 +82,19 @@ class Orca:
     def aviso(self, esperado):
         """The notification that tells what the last key did, spoken once
         and shown once on the braille display, exactly as `esperado` (read
-        from the windows) says it must be."""
+        from the windows) says it must be. The windows are read again only
+        when the display has changed, or a second on: each reading is many
+        questions the game answers between Orca's own, and under load they
+        would hold Orca back."""
+        leido = {"lineas": None, "hora": 0.0}
+
         def mostrado():
+            lineas = self.lineas("braille")
+            if lineas == leido["lineas"] and time.time() - leido["hora"] < 1:
+                return None
             texto = esperado().rstrip(".")
-            return texto if texto in self.lineas("braille") else None
+            leido.update(lineas=lineas, hora=time.time())
+            return texto if texto in lineas else None
         texto = espera(mostrado, lambda: "the braille line '%s'; Orca showed %s and said %s" % (
             esperado(), self.lineas("braille"), self.dicho()))
         assert self.lineas("braille").count(texto) == 1, (texto, self.lineas("braille"))
