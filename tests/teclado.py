@@ -22,6 +22,12 @@ FIN = ("Congratulations, you win!", "You lose", "Draw game!", "¡Felicidades tu 
        "Lo siento tu pierdes", "¡Juego empatado!")
 
 
+# How long the player waits for the screen reader. On a loaded machine Orca
+# has been seen working through its queue 10 s behind the keys, each event
+# half a second, and then saying everything.
+ORCA = 30
+
+
 def espera(condicion, que, segundos=10):
     """The condition's value once it holds; `que` says, when it never does, what was awaited."""
     fin = time.time() + segundos
@@ -62,13 +68,13 @@ class Orca:
         Orca drops notifications (its flood guard)."""
         tamano, inicio = -1, time.time()
         quieto = inicio
-        while time.time() - quieto < 0.2 and time.time() - inicio < 10:
+        while time.time() - quieto < 0.2 and time.time() - inicio < ORCA:
             if os.path.getsize(self.archivo) != tamano:
                 tamano, quieto = os.path.getsize(self.archivo), time.time()
             time.sleep(0.05)
         self.desde = os.path.getsize(self.archivo)
 
-    def oye(self, *textos, segundos=10):
+    def oye(self, *textos, segundos=ORCA):
         """Waits until it has said each text, in this order, each as whole
         words of an utterance (Orca adds a role's words before or after)."""
         def oido():
@@ -96,7 +102,7 @@ class Orca:
             leido.update(lineas=lineas, hora=time.time())
             return texto if texto in lineas else None
         texto = espera(mostrado, lambda: "the braille line '%s'; Orca showed %s and said %s" % (
-            esperado(), self.lineas("braille"), self.dicho()))
+            esperado(), self.lineas("braille"), self.dicho()), ORCA)
         assert self.lineas("braille").count(texto) == 1, (texto, self.lineas("braille"))
         dicho = [d for d in self.dicho() if d.rstrip(".") == texto]
         assert len(dicho) == 1, (texto, self.dicho())
