@@ -44,10 +44,14 @@ orca=$!
 espera 300 0.1 grep -qs "Screen reader on" "$sesion/orca" ||
     { tail -n 30 "$sesion/orca"; echo "Orca not on in 30 s"; exit 1; }
 status=0
-/usr/bin/python3 "$here/teclado.py" "$1" "$sesion/orca" || status=$?
-# On a failure, Orca's own account of the windows and notifications it
-# took or dropped, and why.
-[ $status = 0 ] || grep -aE 'Dequeued (window:|object:state-changed:showing.*notification)|obsoleted|Not processing|defunct|active script to|Exception processing' \
-    "$sesion/orca" | cut -c 1-220 | tail -n 40
+/usr/bin/python3 "$here/teclado.py" "$1" "$sesion/orca" 2> "$sesion/fallo" || status=$?
+if [ $status != 0 ]; then
+    # Orca's own account of the windows and notifications it took or
+    # dropped, and why; then what failed, last, where the end of the
+    # output shows it.
+    grep -aE 'Dequeued (window:|object:state-changed:showing.*notification)|obsoleted|Not processing|defunct|active script to|Exception processing' \
+        "$sesion/orca" | cut -c 1-220 | tail -n 40 || true
+    cat "$sesion/fallo"
+fi
 kill $orca 2> /dev/null || true
 exit $status
